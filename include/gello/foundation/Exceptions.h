@@ -1,0 +1,70 @@
+#pragma once
+// The exception classes of gello. Messages are the system's own texts, kept exactly.
+#include <exception>
+#include <string>
+
+#include "gello/foundation/String.h"
+
+namespace gello {
+
+/// The general exception: a message as String, and as UTF-8 through what().
+class Exception : public std::exception {
+ public:
+  explicit Exception(String Message);
+  const String& Message() const noexcept { return FMessage; }
+  const char* what() const noexcept override { return FWhat.c_str(); }
+
+ private:
+  String FMessage;
+  std::string FWhat;
+};
+
+/// A text that does not convert (numbers, booleans, GUIDs, malformed UTF).
+class EConvertError : public Exception {
+  using Exception::Exception;
+};
+
+/// A broken contract: the fixed text, plus the source unit and line where it was checked.
+class EAssertionFailed : public Exception {
+ public:
+  EAssertionFailed(String Text, std::string Unit, int Line);
+  const String& Text() const noexcept { return FText; }
+  const std::string& Unit() const noexcept { return FUnit; }
+  int Line() const noexcept { return FLine; }
+
+ private:
+  String FText;
+  std::string FUnit;
+  int FLine;
+};
+
+/// Failures of the streaming XML reader, and of the writer after it was created.
+class EXMLTextReader : public Exception {
+  using Exception::Exception;
+};
+
+/// Declared for the writer; its failures are raised as EXMLTextReader.
+class EXMLTextWriter : public Exception {
+  using Exception::Exception;
+};
+
+/// Failures of OCL value operations.
+class EOCLException : public Exception {
+  using Exception::Exception;
+};
+
+/// Integer div or mod by zero.
+class EDivByZero : public Exception {
+  using Exception::Exception;
+};
+
+/// Raises EAssertionFailed for Text at File (reduced to its base name) and Line.
+[[noreturn]] void AssertionFailed(const String& Text, const char* File, int Line);
+
+}  // namespace gello
+
+/// Checks a contract; on failure raises EAssertionFailed with Text, this file and line.
+#define GELLO_ASSERT(Condition, Text) \
+  do {                                \
+    if (!(Condition)) ::gello::AssertionFailed(Text, __FILE__, __LINE__); \
+  } while (false)

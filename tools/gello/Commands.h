@@ -1,0 +1,10 @@
+#pragma once
+// Each family of subcommands registers itself on the tool's application.
+#include <CLI/CLI.hpp>
+
+namespace gello::tool {
+
+/// "xml paths FILE": streams an XML file and prints each element's path.
+void AddXmlCommands(CLI::App& App);
+
+}  // namespace gello::tool
