@@ -41,9 +41,9 @@ Ref<TXMLTextReader> TXMLTextReader::Wrap(xmlTextReaderPtr Reader, const String& 
                                          std::unique_ptr<TStream> Owned) {
   ReaderHandle Handle(Reader);
   if (!Handle) throw Exception(Failure);
-  auto* Result = new TXMLTextReader(Handle.get(), std::move(Owned));
+  auto Result = MakeRef<TXMLTextReader>(Handle.get(), std::move(Owned));
   Handle.release();
-  return Ref<TXMLTextReader>::Adopt(Result);
+  return Result;
 }
 
 Ref<TXMLTextReader> TXMLTextReader::Create(const String& FileName) {

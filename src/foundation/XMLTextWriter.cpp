@@ -64,7 +64,7 @@ TXMLTextWriter::~TXMLTextWriter() {
 Ref<TXMLTextWriter> TXMLTextWriter::Started(xmlTextWriterPtr Writer, bool Indent) {
   Ref<TXMLTextWriter> Result;
   try {
-    Result = Ref<TXMLTextWriter>::Adopt(new TXMLTextWriter(Writer));
+    Result = MakeRef<TXMLTextWriter>(Writer);
   } catch (...) {
     xmlFreeTextWriter(Writer);
     throw;

@@ -84,6 +84,8 @@ class TXMLTextReader : public virtual IXMLTextReader {
   void ResetNode();
 
  private:
+  template <class U, class... A>
+  friend Ref<U> MakeRef(A&&...);
   TXMLTextReader(_xmlTextReader* Reader, std::unique_ptr<TStream> Owned);
   static Ref<TXMLTextReader> Wrap(_xmlTextReader* Reader, const String& Failure,
                                   std::unique_ptr<TStream> Owned);

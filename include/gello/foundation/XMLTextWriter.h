@@ -50,6 +50,8 @@ class TXMLTextWriter : public virtual IXMLTextWriter {
   void Close() override;
 
  private:
+  template <class U, class... A>
+  friend Ref<U> MakeRef(A&&...);
   explicit TXMLTextWriter(_xmlTextWriter* Writer);
   static Ref<TXMLTextWriter> Started(_xmlTextWriter* Writer, bool Indent);
 
