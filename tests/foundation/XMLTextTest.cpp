@@ -166,6 +166,10 @@ TEST(XMLTextWriter, EscapesAndSendsTheSameBytesToStringStreamAndFile) {
   EXPECT_EQ(Memory.Bytes(),
             "<?xml version=\"1.0\"?>\n<r q=\"a&quot;&lt;&amp;\">1 &lt; 2 &amp; 3 "
             "&gt; 2<e>\xC3</e></r>\n");
+  std::ostringstream Out;
+  TStdStream Std(Out);
+  Fill(*TXMLTextWriter::Create(Std, false));
+  EXPECT_EQ(Out.str(), Memory.Bytes());
   const std::string Name = TempFile("writer.xml");
   Fill(*TXMLTextWriter::Create(FromLatin1(Name), false));
   std::stringstream File;
