@@ -1,0 +1,60 @@
+#pragma once
+// The ordered, name-indexed list in which scopes, classes and packages keep their elements.
+#include <initializer_list>
+#include <unordered_map>
+#include <vector>
+
+#include "gello/model/Interfaces.h"
+
+namespace gello {
+
+/// Elements in insertion order, with a case-sensitive name index where the last added name wins.
+class TRTTIElementList : public virtual IRTTIElementList {
+ public:
+  TRTTIElementList() = default;
+  TRTTIElementList(std::initializer_list<Ref<IRTTIElement>> Elements);
+
+  int Add(const Ref<IRTTIElement>& Element) override;
+  void Insert(int Index, const Ref<IRTTIElement>& Element) override;
+  void Delete(int Index) override;
+  void Clear() override;
+  bool Exists(IRTTIElement* Element) const override;
+  int IndexOf(const String& Name) const override;
+  int IndexOfElement(IRTTIElement* Element) const override;
+  void Include(IRTTIElementList* Other) override;
+  void IncludeElement(const Ref<IRTTIElement>& Element) override;
+  int GetCount() const override { return static_cast<int>(FItems.size()); }
+  Ref<IRTTIElement> GetItems(int Index) const override;
+  void SetItems(int Index, const Ref<IRTTIElement>& Element) override;
+  Ref<IRTTIElement> GetItemByName(const String& Name) const override;
+  void SetItemByName(const String& Name, const Ref<IRTTIElement>& Element) override;
+  Ref<IRTTIElement> GetItemByUMLID(const String& Id) const override;
+  Ref<IRTTIElementList> ItemsByName(const String& Name) const override;
+  Ref<IRTTIElementList> GetSortedItems() const override;
+  void Sort() override;
+  void Swap(int I, int J) override;
+  void Reset() override;
+  void Resolve(IRTTIScope* Scope) override;
+  bool GetMergeElements() const override { return FMergeElements; }
+  void SetMergeElements(bool Value) override { FMergeElements = Value; }
+
+ private:
+  struct TItem {
+    Ref<IRTTIElement> Element;
+    String IndexedName;  // the name at the time of adding; a later rename does not move it
+  };
+  void CheckIndex(int Index, int Limit) const;
+  void IndexAdd(const TItem& Item);
+  void IndexRemove(const TItem& Item);
+  TItem MakeItem(const Ref<IRTTIElement>& Element) const;
+  void QuickSort(int L, int R);
+
+  std::vector<TItem> FItems;
+  bool FMergeElements = false;
+  // Name to the elements of that name, oldest first; the back one answers a lookup.
+  std::unordered_map<String, std::vector<IRTTIElement*>> FNameIndex;
+  // How often each element is held, so that Exists and Include need not scan.
+  std::unordered_map<IRTTIElement*, int> FHeld;
+};
+
+}  // namespace gello

@@ -1,0 +1,190 @@
+#include "gello/model/ElementList.h"
+
+#include <algorithm>
+#include <map>
+
+#include "gello/foundation/Exceptions.h"
+
+namespace gello {
+
+TRTTIElementList::TRTTIElementList(std::initializer_list<Ref<IRTTIElement>> Elements) {
+  for (const Ref<IRTTIElement>& Element : Elements)
+    Add(Element);
+}
+
+TRTTIElementList::TItem TRTTIElementList::MakeItem(const Ref<IRTTIElement>& Element) const {
+  GELLO_ASSERT(Element, u"Adding null element to list");
+  return TItem{Element, Element->GetName()};
+}
+
+void TRTTIElementList::CheckIndex(int Index, int Limit) const {
+  if (Index < 0 || Index >= Limit)
+    throw Exception(u"List index out of bounds (" + IntToStr(Index) + u")");
+}
+
+void TRTTIElementList::IndexAdd(const TItem& Item) {
+  FNameIndex[Item.IndexedName].push_back(Item.Element.get());
+  ++FHeld[Item.Element.get()];
+}
+
+void TRTTIElementList::IndexRemove(const TItem& Item) {
+  auto Names = FNameIndex.find(Item.IndexedName);
+  std::vector<IRTTIElement*>& Same = Names->second;
+  Same.erase(std::find(Same.rbegin(), Same.rend(), Item.Element.get()).base() - 1);
+  if (Same.empty()) FNameIndex.erase(Names);
+  auto Held = FHeld.find(Item.Element.get());
+  if (--Held->second == 0) FHeld.erase(Held);
+}
+
+int TRTTIElementList::Add(const Ref<IRTTIElement>& Element) {
+  FItems.push_back(MakeItem(Element));
+  IndexAdd(FItems.back());
+  return GetCount() - 1;
+}
+
+void TRTTIElementList::Insert(int Index, const Ref<IRTTIElement>& Element) {
+  CheckIndex(Index, GetCount() + 1);
+  TItem Item = MakeItem(Element);
+  IndexAdd(Item);
+  FItems.insert(FItems.begin() + Index, std::move(Item));
+}
+
+void TRTTIElementList::Delete(int Index) {
+  CheckIndex(Index, GetCount());
+  IndexRemove(FItems[Index]);
+  FItems.erase(FItems.begin() + Index);
+}
+
+void TRTTIElementList::Clear() {
+  FItems.clear();
+  FNameIndex.clear();
+  FHeld.clear();
+}
+
+bool TRTTIElementList::Exists(IRTTIElement* Element) const {
+  return FHeld.contains(Element);
+}
+
+int TRTTIElementList::IndexOf(const String& Name) const {
+  Ref<IRTTIElement> Element = GetItemByName(Name);
+  return Element ? IndexOfElement(Element.get()) : -1;
+}
+
+int TRTTIElementList::IndexOfElement(IRTTIElement* Element) const {
+  if (!Exists(Element)) return -1;
+  for (int i = 0; i < GetCount(); ++i)
+    if (FItems[i].Element.get() == Element) return i;
+  return -1;
+}
+
+void TRTTIElementList::Include(IRTTIElementList* Other) {
+  if (!Other) return;
+  for (int i = 0; i < Other->GetCount(); ++i)
+    IncludeElement(Other->GetItems(i));
+}
+
+void TRTTIElementList::IncludeElement(const Ref<IRTTIElement>& Element) {
+  if (!Exists(Element.get())) Add(Element);
+}
+
+Ref<IRTTIElement> TRTTIElementList::GetItems(int Index) const {
+  CheckIndex(Index, GetCount());
+  return FItems[Index].Element;
+}
+
+void TRTTIElementList::SetItems(int Index, const Ref<IRTTIElement>& Element) {
+  CheckIndex(Index, GetCount());
+  TItem Item = MakeItem(Element);
+  IndexRemove(FItems[Index]);
+  IndexAdd(Item);
+  FItems[Index] = std::move(Item);
+}
+
+Ref<IRTTIElement> TRTTIElementList::GetItemByName(const String& Name) const {
+  auto Found = FNameIndex.find(Name);
+  return Found == FNameIndex.end() ? nullptr : Ref<IRTTIElement>(Found->second.back());
+}
+
+void TRTTIElementList::SetItemByName(const String& Name, const Ref<IRTTIElement>& Element) {
+  const int Index = IndexOf(Name);
+  if (Index >= 0)
+    SetItems(Index, Element);
+  else
+    Add(Element);
+}
+
+Ref<IRTTIElement> TRTTIElementList::GetItemByUMLID(const String& Id) const {
+  for (const TItem& Item : FItems)
+    if (Item.Element->GetUML_ID() == Id) return Item.Element;
+  return nullptr;
+}
+
+Ref<IRTTIElementList> TRTTIElementList::ItemsByName(const String& Name) const {
+  auto Result = MakeRef<TRTTIElementList>();
+  auto Found = FNameIndex.find(Name);
+  if (Found != FNameIndex.end())
+    for (IRTTIElement* Element : Found->second)
+      Result->Add(Ref<IRTTIElement>(Element));
+  return Result;
+}
+
+Ref<IRTTIElementList> TRTTIElementList::GetSortedItems() const {
+  // The index order: by name, and among equal names the last added first.
+  std::map<String, const std::vector<IRTTIElement*>*> Sorted;
+  for (const auto& [Name, Same] : FNameIndex)
+    Sorted.emplace(Name, &Same);
+  auto Result = MakeRef<TRTTIElementList>();
+  for (const auto& Entry : Sorted)
+    for (auto It = Entry.second->rbegin(); It != Entry.second->rend(); ++It)
+      Result->Add(Ref<IRTTIElement>(*It));
+  return Result;
+}
+
+void TRTTIElementList::Sort() {
+  if (GetCount() > 1) QuickSort(0, GetCount() - 1);
+}
+
+void TRTTIElementList::QuickSort(int L, int R) {
+  int I = L;
+  do {
+    I = L;
+    int J = R;
+    const String Pivot = FItems[(L + R) / 2].Element->GetName();
+    do {
+      while (FItems[I].Element->GetName() < Pivot)
+        ++I;
+      while (FItems[J].Element->GetName() > Pivot)
+        --J;
+      if (I <= J) {
+        Swap(I, J);
+        ++I;
+        --J;
+      }
+    } while (I <= J);
+    if (L < J) QuickSort(L, J);
+    L = I;
+  } while (I < R);
+}
+
+void TRTTIElementList::Swap(int I, int J) {
+  CheckIndex(I, GetCount());
+  CheckIndex(J, GetCount());
+  std::swap(FItems[I], FItems[J]);
+}
+
+void TRTTIElementList::Reset() {
+  // Take the items out first: clearing an element may reach back into this list.
+  std::vector<TItem> Items = std::move(FItems);
+  Clear();
+  for (TItem& Item : Items)
+    Item.Element->Clear();
+}
+
+void TRTTIElementList::Resolve(IRTTIScope* Scope) {
+  for (int i = 0; i < GetCount(); ++i) {
+    const Ref<IRTTIElement> Element = FItems[i].Element;  // resolving may change the list
+    Element->Resolve(Scope);
+  }
+}
+
+}  // namespace gello
