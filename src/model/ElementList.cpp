@@ -12,39 +12,53 @@ TRTTIElementList::TRTTIElementList(std::initializer_list<Ref<IRTTIElement>> Elem
     Add(Element);
 }
 
-TRTTIElementList::TItem TRTTIElementList::MakeItem(const Ref<IRTTIElement>& Element) const {
-  GELLO_ASSERT(Element, u"Adding null element to list");
-  return TItem{Element, Element->GetName()};
-}
-
 void TRTTIElementList::CheckIndex(int Index, int Limit) const {
   if (Index < 0 || Index >= Limit)
     throw Exception(u"List index out of bounds (" + IntToStr(Index) + u")");
 }
 
-void TRTTIElementList::IndexAdd(const TItem& Item) {
-  FNameIndex[Item.IndexedName].push_back(Item.Element.get());
-  ++FHeld[Item.Element.get()];
+void TRTTIElementList::IndexAdd(TItem& Item) {
+  GELLO_ASSERT(Item.Element, u"Adding null element to list");
+  IRTTIElement* Element = Item.Element.get();
+  auto [Entry, Added] = FNameIndex.try_emplace(Element->GetName(), Element);
+  if (!Added) {
+    FOlder[Entry->first].push_back(Entry->second);
+    Entry->second = Element;
+  }
+  Item.IndexedName = &Entry->first;
+  ++FHeld[Element];
 }
 
 void TRTTIElementList::IndexRemove(const TItem& Item) {
-  auto Names = FNameIndex.find(Item.IndexedName);
-  std::vector<IRTTIElement*>& Same = Names->second;
-  Same.erase(std::find(Same.rbegin(), Same.rend(), Item.Element.get()).base() - 1);
-  if (Same.empty()) FNameIndex.erase(Names);
-  auto Held = FHeld.find(Item.Element.get());
+  IRTTIElement* Element = Item.Element.get();
+  auto Held = FHeld.find(Element);
   if (--Held->second == 0) FHeld.erase(Held);
+  auto Entry = FNameIndex.find(*Item.IndexedName);
+  auto Older = FOlder.find(*Item.IndexedName);
+  if (Entry->second == Element && Older == FOlder.end()) {
+    FNameIndex.erase(Entry);  // the last of its name
+    return;
+  }
+  std::vector<IRTTIElement*>& Earlier = Older->second;
+  if (Entry->second == Element) {
+    Entry->second = Earlier.back();
+    Earlier.pop_back();
+  } else {
+    Earlier.erase(std::find(Earlier.rbegin(), Earlier.rend(), Element).base() - 1);
+  }
+  if (Earlier.empty()) FOlder.erase(Older);
 }
 
 int TRTTIElementList::Add(const Ref<IRTTIElement>& Element) {
-  FItems.push_back(MakeItem(Element));
-  IndexAdd(FItems.back());
+  TItem Item{Element, nullptr};
+  IndexAdd(Item);
+  FItems.push_back(std::move(Item));
   return GetCount() - 1;
 }
 
 void TRTTIElementList::Insert(int Index, const Ref<IRTTIElement>& Element) {
   CheckIndex(Index, GetCount() + 1);
-  TItem Item = MakeItem(Element);
+  TItem Item{Element, nullptr};
   IndexAdd(Item);
   FItems.insert(FItems.begin() + Index, std::move(Item));
 }
@@ -58,6 +72,7 @@ void TRTTIElementList::Delete(int Index) {
 void TRTTIElementList::Clear() {
   FItems.clear();
   FNameIndex.clear();
+  FOlder.clear();
   FHeld.clear();
 }
 
@@ -94,15 +109,15 @@ Ref<IRTTIElement> TRTTIElementList::GetItems(int Index) const {
 
 void TRTTIElementList::SetItems(int Index, const Ref<IRTTIElement>& Element) {
   CheckIndex(Index, GetCount());
-  TItem Item = MakeItem(Element);
-  IndexRemove(FItems[Index]);
+  TItem Item{Element, nullptr};
   IndexAdd(Item);
+  IndexRemove(FItems[Index]);
   FItems[Index] = std::move(Item);
 }
 
 Ref<IRTTIElement> TRTTIElementList::GetItemByName(const String& Name) const {
   auto Found = FNameIndex.find(Name);
-  return Found == FNameIndex.end() ? nullptr : Ref<IRTTIElement>(Found->second.back());
+  return Found == FNameIndex.end() ? nullptr : Ref<IRTTIElement>(Found->second);
 }
 
 void TRTTIElementList::SetItemByName(const String& Name, const Ref<IRTTIElement>& Element) {
@@ -122,21 +137,24 @@ Ref<IRTTIElement> TRTTIElementList::GetItemByUMLID(const String& Id) const {
 Ref<IRTTIElementList> TRTTIElementList::ItemsByName(const String& Name) const {
   auto Result = MakeRef<TRTTIElementList>();
   auto Found = FNameIndex.find(Name);
-  if (Found != FNameIndex.end())
-    for (IRTTIElement* Element : Found->second)
+  if (Found == FNameIndex.end()) return Result;
+  if (auto Older = FOlder.find(Name); Older != FOlder.end())
+    for (IRTTIElement* Element : Older->second)
       Result->Add(Ref<IRTTIElement>(Element));
+  Result->Add(Ref<IRTTIElement>(Found->second));
   return Result;
 }
 
 Ref<IRTTIElementList> TRTTIElementList::GetSortedItems() const {
   // The index order: by name, and among equal names the last added first.
-  std::map<String, const std::vector<IRTTIElement*>*> Sorted;
-  for (const auto& [Name, Same] : FNameIndex)
-    Sorted.emplace(Name, &Same);
+  std::map<String, IRTTIElement*> Sorted(FNameIndex.begin(), FNameIndex.end());
   auto Result = MakeRef<TRTTIElementList>();
-  for (const auto& Entry : Sorted)
-    for (auto It = Entry.second->rbegin(); It != Entry.second->rend(); ++It)
-      Result->Add(Ref<IRTTIElement>(*It));
+  for (const auto& [Name, Newest] : Sorted) {
+    Result->Add(Ref<IRTTIElement>(Newest));
+    if (auto Older = FOlder.find(Name); Older != FOlder.end())
+      for (auto It = Older->second.rbegin(); It != Older->second.rend(); ++It)
+        Result->Add(Ref<IRTTIElement>(*It));
+  }
   return Result;
 }
 

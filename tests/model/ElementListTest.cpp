@@ -76,6 +76,29 @@ TEST(ElementList, IndexAgreesWithTheListAfterChanges) {
   EXPECT_EQ(List->GetCount(), 0);
 }
 
+TEST(ElementList, DeletingAnyOfEqualNamesKeepsTheOthersInOrder) {
+  auto List = MakeRef<TRTTIElementList>();
+  Ref<IRTTIElement> X1 = Named(u"x"), X2 = Named(u"x"), X3 = Named(u"x");
+  List->Add(X1);
+  List->Add(X2);
+  List->Add(X3);
+  List->Delete(1);
+  EXPECT_EQ(List->GetItemByName(u"x"), X3);
+  Ref<IRTTIElementList> Same = List->ItemsByName(u"x");
+  ASSERT_EQ(Same->GetCount(), 2);
+  EXPECT_EQ(Same->GetItems(0), X1);
+  List->Delete(1);
+  EXPECT_EQ(List->GetItemByName(u"x"), X1);
+  List->Add(X1);  // the same element twice: removing one copy keeps the other findable
+  List->Delete(0);
+  EXPECT_EQ(List->GetItemByName(u"x"), X1);
+  EXPECT_TRUE(List->Exists(X1.get()));
+  List->Delete(0);
+  EXPECT_FALSE(List->GetItemByName(u"x"));
+  EXPECT_FALSE(List->Exists(X1.get()));
+  EXPECT_EQ(List->ItemsByName(u"x")->GetCount(), 0);
+}
+
 TEST(ElementList, RenameDoesNotMoveTheIndexEntry) {
   auto List = MakeRef<TRTTIElementList>();
   auto Unnamed = MakeRef<TRTTIElement>();

@@ -41,18 +41,22 @@ class TRTTIElementList : public virtual IRTTIElementList {
  private:
   struct TItem {
     Ref<IRTTIElement> Element;
-    String IndexedName;  // the name at the time of adding; a later rename does not move it
+    // The key of its index entry: the name at the time of adding; a later rename does not move
+    // it. Index nodes never move, so the pointer stays valid while the entry lives.
+    const String* IndexedName;
   };
   void CheckIndex(int Index, int Limit) const;
-  void IndexAdd(const TItem& Item);
+  void IndexAdd(TItem& Item);
   void IndexRemove(const TItem& Item);
-  TItem MakeItem(const Ref<IRTTIElement>& Element) const;
   void QuickSort(int L, int R);
 
   std::vector<TItem> FItems;
   bool FMergeElements = false;
-  // Name to the elements of that name, oldest first; the back one answers a lookup.
-  std::unordered_map<String, std::vector<IRTTIElement*>> FNameIndex;
+  // Name to the newest element of that name, which answers lookups; kept small so that a lookup
+  // touches as little memory as possible.
+  std::unordered_map<String, IRTTIElement*> FNameIndex;
+  // For names held more than once: the earlier elements, oldest first.
+  std::unordered_map<String, std::vector<IRTTIElement*>> FOlder;
   // How often each element is held, so that Exists and Include need not scan.
   std::unordered_map<IRTTIElement*, int> FHeld;
 };
