@@ -17,15 +17,26 @@ void TRTTIElementList::CheckIndex(int Index, int Limit) const {
     throw Exception(u"List index out of bounds (" + IntToStr(Index) + u")");
 }
 
+IRTTIElement* TRTTIElementList::Newest(const String& Key) const {
+  return Key.empty() ? FUnnamed : FNames.Find(Key);
+}
+
+void TRTTIElementList::SetNewest(const String& Key, IRTTIElement* Element) {
+  if (Key.empty())
+    FUnnamed = Element;
+  else if (Element)
+    FNames.Put(Element);
+  else
+    FNames.Erase(Key);
+}
+
 void TRTTIElementList::IndexAdd(TItem& Item) {
   GELLO_ASSERT(Item.Element, u"Adding null element to list");
   IRTTIElement* Element = Item.Element.get();
-  auto [Entry, Added] = FNameIndex.try_emplace(Element->GetName(), Element);
-  if (!Added) {
-    FOlder[Entry->first].push_back(Entry->second);
-    Entry->second = Element;
-  }
-  Item.IndexedName = &Entry->first;
+  const String Key = Element->GetName();
+  Item.Unnamed = Key.empty();
+  if (IRTTIElement* Earlier = Newest(Key)) FOlder[Key].push_back(Earlier);
+  SetNewest(Key, Element);
   ++FHeld[Element];
 }
 
@@ -33,15 +44,15 @@ void TRTTIElementList::IndexRemove(const TItem& Item) {
   IRTTIElement* Element = Item.Element.get();
   auto Held = FHeld.find(Element);
   if (--Held->second == 0) FHeld.erase(Held);
-  auto Entry = FNameIndex.find(*Item.IndexedName);
-  auto Older = FOlder.find(*Item.IndexedName);
-  if (Entry->second == Element && Older == FOlder.end()) {
-    FNameIndex.erase(Entry);  // the last of its name
+  const String Key = Item.Unnamed ? String() : Element->GetName();
+  auto Older = FOlder.find(Key);
+  if (Older == FOlder.end()) {
+    SetNewest(Key, nullptr);  // the last of its name
     return;
   }
   std::vector<IRTTIElement*>& Earlier = Older->second;
-  if (Entry->second == Element) {
-    Entry->second = Earlier.back();
+  if (Newest(Key) == Element) {
+    SetNewest(Key, Earlier.back());
     Earlier.pop_back();
   } else {
     Earlier.erase(std::find(Earlier.rbegin(), Earlier.rend(), Element).base() - 1);
@@ -50,7 +61,7 @@ void TRTTIElementList::IndexRemove(const TItem& Item) {
 }
 
 int TRTTIElementList::Add(const Ref<IRTTIElement>& Element) {
-  TItem Item{Element, nullptr};
+  TItem Item{Element, false};
   IndexAdd(Item);
   FItems.push_back(std::move(Item));
   return GetCount() - 1;
@@ -58,7 +69,7 @@ int TRTTIElementList::Add(const Ref<IRTTIElement>& Element) {
 
 void TRTTIElementList::Insert(int Index, const Ref<IRTTIElement>& Element) {
   CheckIndex(Index, GetCount() + 1);
-  TItem Item{Element, nullptr};
+  TItem Item{Element, false};
   IndexAdd(Item);
   FItems.insert(FItems.begin() + Index, std::move(Item));
 }
@@ -71,7 +82,8 @@ void TRTTIElementList::Delete(int Index) {
 
 void TRTTIElementList::Clear() {
   FItems.clear();
-  FNameIndex.clear();
+  FNames.Clear();
+  FUnnamed = nullptr;
   FOlder.clear();
   FHeld.clear();
 }
@@ -109,15 +121,14 @@ Ref<IRTTIElement> TRTTIElementList::GetItems(int Index) const {
 
 void TRTTIElementList::SetItems(int Index, const Ref<IRTTIElement>& Element) {
   CheckIndex(Index, GetCount());
-  TItem Item{Element, nullptr};
+  TItem Item{Element, false};
   IndexAdd(Item);
   IndexRemove(FItems[Index]);
   FItems[Index] = std::move(Item);
 }
 
 Ref<IRTTIElement> TRTTIElementList::GetItemByName(const String& Name) const {
-  auto Found = FNameIndex.find(Name);
-  return Found == FNameIndex.end() ? nullptr : Ref<IRTTIElement>(Found->second);
+  return Ref<IRTTIElement>(Newest(Name));
 }
 
 void TRTTIElementList::SetItemByName(const String& Name, const Ref<IRTTIElement>& Element) {
@@ -136,21 +147,24 @@ Ref<IRTTIElement> TRTTIElementList::GetItemByUMLID(const String& Id) const {
 
 Ref<IRTTIElementList> TRTTIElementList::ItemsByName(const String& Name) const {
   auto Result = MakeRef<TRTTIElementList>();
-  auto Found = FNameIndex.find(Name);
-  if (Found == FNameIndex.end()) return Result;
+  IRTTIElement* Last = Newest(Name);
+  if (!Last) return Result;
   if (auto Older = FOlder.find(Name); Older != FOlder.end())
     for (IRTTIElement* Element : Older->second)
       Result->Add(Ref<IRTTIElement>(Element));
-  Result->Add(Ref<IRTTIElement>(Found->second));
+  Result->Add(Ref<IRTTIElement>(Last));
   return Result;
 }
 
 Ref<IRTTIElementList> TRTTIElementList::GetSortedItems() const {
   // The index order: by name, and among equal names the last added first.
-  std::map<String, IRTTIElement*> Sorted(FNameIndex.begin(), FNameIndex.end());
+  std::map<String, IRTTIElement*> Sorted;
+  for (IRTTIElement* Element : FNames.Elements())
+    Sorted.emplace(Element->GetName(), Element);
+  if (FUnnamed) Sorted.emplace(String(), FUnnamed);
   auto Result = MakeRef<TRTTIElementList>();
-  for (const auto& [Name, Newest] : Sorted) {
-    Result->Add(Ref<IRTTIElement>(Newest));
+  for (const auto& [Name, Last] : Sorted) {
+    Result->Add(Ref<IRTTIElement>(Last));
     if (auto Older = FOlder.find(Name); Older != FOlder.end())
       for (auto It = Older->second.rbegin(); It != Older->second.rend(); ++It)
         Result->Add(Ref<IRTTIElement>(*It));

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "gello/model/Interfaces.h"
+#include "gello/model/NameTable.h"
 
 namespace gello {
 
@@ -41,20 +42,23 @@ class TRTTIElementList : public virtual IRTTIElementList {
  private:
   struct TItem {
     Ref<IRTTIElement> Element;
-    // The key of its index entry: the name at the time of adding; a later rename does not move
-    // it. Index nodes never move, so the pointer stays valid while the entry lives.
-    const String* IndexedName;
+    // Added without a name: indexed under "" even after it was named later. Names are
+    // write-once, so any other element keeps the name it was indexed under.
+    bool Unnamed;
   };
   void CheckIndex(int Index, int Limit) const;
   void IndexAdd(TItem& Item);
   void IndexRemove(const TItem& Item);
+  IRTTIElement* Newest(const String& Key) const;
+  void SetNewest(const String& Key, IRTTIElement* Element);
   void QuickSort(int L, int R);
 
   std::vector<TItem> FItems;
   bool FMergeElements = false;
-  // Name to the newest element of that name, which answers lookups; kept small so that a lookup
-  // touches as little memory as possible.
-  std::unordered_map<String, IRTTIElement*> FNameIndex;
+  // The newest element of each name answers lookups: named ones in a compact table, the
+  // newest unnamed one beside it.
+  TNameTable FNames;
+  IRTTIElement* FUnnamed = nullptr;
   // For names held more than once: the earlier elements, oldest first.
   std::unordered_map<String, std::vector<IRTTIElement*>> FOlder;
   // How often each element is held, so that Exists and Include need not scan.
