@@ -15,12 +15,15 @@ using namespace gello;
 
 namespace {
 
+const String BuiltIns[] = {u"Integer", u"String", u"Real", u"Boolean"};
+
 String ClassName(int i) {
   return u"C" + IntToStr(i);
 }
 
 // A package of N classes, made as a reader makes them: each derives from class i/2 and has three
-// properties and two methods typed by other classes, found or forward-declared by name.
+// properties and two methods typed by other classes, found or forward-declared by name, and one
+// property of a built-in type (which the package itself does not hold).
 struct TBenchModel {
   Ref<TRTTIGlobals> Globals = MakeRef<TRTTIGlobals>();
   Ref<TRTTIPackage> Package = MakeRef<TRTTIPackage>(u"Bench");
@@ -47,6 +50,7 @@ struct TBenchModel {
     const int Types[] = {(i * 7 + 1) % N, (i * 13 + 5) % N, (i + 1) % N};
     for (int k = 0; k < 3; ++k)
       C->AddMember(MakeRef<TRTTIProperty>(Own + IntToStr(k), Type(Names[Types[k]])));
+    C->AddMember(MakeRef<TRTTIProperty>(Own + u"v", Type(BuiltIns[i % 4])));
     for (int k = 0; k < 2; ++k) {
       auto Params = MakeRef<TRTTIElementList>();
       Params->Add(MakeRef<TRTTIProperty>(u"arg", Type(Names[(i + k + 2) % N])));

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "gello/foundation/Exceptions.h"
+#include "gello/model/Element.h"
 
 namespace gello {
 
@@ -32,6 +33,7 @@ void TRTTIElementList::SetNewest(const String& Key, IRTTIElement* Element) {
 
 void TRTTIElementList::IndexAdd(TItem& Item) {
   GELLO_ASSERT(Item.Element, u"Adding null element to list");
+  ForgetUMLIds();
   IRTTIElement* Element = Item.Element.get();
   const String Key = Element->GetName();
   Item.Unnamed = Key.empty();
@@ -41,6 +43,7 @@ void TRTTIElementList::IndexAdd(TItem& Item) {
 }
 
 void TRTTIElementList::IndexRemove(const TItem& Item) {
+  ForgetUMLIds();
   IRTTIElement* Element = Item.Element.get();
   auto Held = FHeld.find(Element);
   if (--Held->second == 0) FHeld.erase(Held);
@@ -82,6 +85,7 @@ void TRTTIElementList::Delete(int Index) {
 
 void TRTTIElementList::Clear() {
   FItems.clear();
+  ForgetUMLIds();
   FNames.Clear();
   FUnnamed = nullptr;
   FOlder.clear();
@@ -140,9 +144,17 @@ void TRTTIElementList::SetItemByName(const String& Name, const Ref<IRTTIElement>
 }
 
 Ref<IRTTIElement> TRTTIElementList::GetItemByUMLID(const String& Id) const {
-  for (const TItem& Item : FItems)
-    if (Item.Element->GetUML_ID() == Id) return Item.Element;
-  return nullptr;
+  if (!FUMLValid || FUMLEpoch != UMLIdEpoch()) {
+    FByUMLId.clear();
+    for (const TItem& Item : FItems) {
+      String Own = Item.Element->PeekUML_ID();
+      if (!Own.empty()) FByUMLId.try_emplace(std::move(Own), Item.Element.get());
+    }
+    FUMLEpoch = UMLIdEpoch();
+    FUMLValid = true;
+  }
+  auto Found = FByUMLId.find(Id);
+  return Found == FByUMLId.end() ? nullptr : Ref<IRTTIElement>(Found->second);
 }
 
 Ref<IRTTIElementList> TRTTIElementList::ItemsByName(const String& Name) const {
@@ -202,6 +214,7 @@ void TRTTIElementList::Swap(int I, int J) {
   CheckIndex(I, GetCount());
   CheckIndex(J, GetCount());
   std::swap(FItems[I], FItems[J]);
+  ForgetUMLIds();  // the first holder of an id may have moved
 }
 
 void TRTTIElementList::Reset() {

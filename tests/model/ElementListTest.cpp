@@ -166,7 +166,7 @@ TEST(ElementList, SortedItemsFollowTheIndexOrder) {
   EXPECT_EQ(Sorted->GetItems(2), B1);
 }
 
-TEST(ElementList, UMLIdLookupGivesIdsToWhatItPasses) {
+TEST(ElementList, UMLIdLookupFollowsIdsAndOrder) {
   auto List = MakeRef<TRTTIElementList>();
   Ref<IRTTIElement> A = Named(u"a"), B = Named(u"b"), C = Named(u"c");
   List->Add(A);
@@ -175,7 +175,23 @@ TEST(ElementList, UMLIdLookupGivesIdsToWhatItPasses) {
   B->SetUML_ID(u"id-b");
   EXPECT_EQ(List->GetItemByUMLID(u"id-b"), B);
   EXPECT_FALSE(List->GetItemByUMLID(u"ID-B"));
-  EXPECT_EQ(List->GetItemByUMLID(C->GetUML_ID()), C);
+  // Ids made or changed after a lookup are seen by the next one.
+  const GUID Id = C->GetGUID();  // the UML id follows from the GUID
+  String Expected = u"QX_" + Id.ToString().substr(1, 36);
+  for (char16_t& Ch : Expected)
+    if (Ch == u'-') Ch = u'_';
+  EXPECT_EQ(List->GetItemByUMLID(Expected), C);
+  B->SetUML_ID(u"id-b2");
+  EXPECT_FALSE(List->GetItemByUMLID(u"id-b"));
+  EXPECT_EQ(List->GetItemByUMLID(u"id-b2"), B);
+  // The first holder of an id in list order wins, also after moves and deletes.
+  A->SetUML_ID(u"id-b2");
+  EXPECT_EQ(List->GetItemByUMLID(u"id-b2"), A);
+  List->Swap(0, 1);
+  EXPECT_EQ(List->GetItemByUMLID(u"id-b2"), B);
+  List->Delete(0);
+  EXPECT_EQ(List->GetItemByUMLID(u"id-b2"), A);
+  EXPECT_EQ(C->GetUML_ID(), Expected);
 }
 
 TEST(ElementList, ResetClearsEveryElementAndMergeFlagIsKept) {

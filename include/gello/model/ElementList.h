@@ -61,6 +61,12 @@ class TRTTIElementList : public virtual IRTTIElementList {
   IRTTIElement* FUnnamed = nullptr;
   // For names held more than once: the earlier elements, oldest first.
   std::unordered_map<String, std::vector<IRTTIElement*>> FOlder;
+  // UML id to the first element that has it, made on demand; an element without any id would
+  // get a fresh random one, which no given id can equal, so it need not be given one here.
+  void ForgetUMLIds() { FUMLValid = false; }
+  mutable std::unordered_map<String, IRTTIElement*> FByUMLId;
+  mutable std::uint64_t FUMLEpoch = 0;
+  mutable bool FUMLValid = false;
   // How often each element is held, so that Exists and Include need not scan.
   std::unordered_map<IRTTIElement*, int> FHeld;
 };
