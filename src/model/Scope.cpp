@@ -1,5 +1,6 @@
 #include "gello/model/Scope.h"
 
+#include "gello/foundation/Exceptions.h"
 #include "gello/foundation/Log.h"
 #include "gello/model/ElementList.h"
 #include "gello/model/InterfaceQuery.h"
@@ -19,6 +20,7 @@ Ref<IRTTIElementList> TRTTIScope::GetStatements() const {
 }
 
 bool TRTTIScope::AddMember(const Ref<IRTTIElement>& Element) {
+  GELLO_ASSERT(Element, u"Adding null element to list");
   // The virtual Lookup: a class also refuses a name that one of its ancestors uses.
   if (Lookup(Element->GetName(), IRTTIElement::IID)) return false;
   FMembers->Add(Element);

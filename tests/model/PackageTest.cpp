@@ -1,6 +1,7 @@
 #include "gello/model/Package.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "gello/foundation/Exceptions.h"
 #include "gello/foundation/Log.h"
 #include "gello/model/Class.h"
 #include "gello/model/ElementList.h"
@@ -26,6 +27,7 @@ TEST_F(ScopeTest, AddMemberRefusesATakenName) {
   auto First = MakeRef<TRTTIElement>(u"x");
   EXPECT_TRUE(Scope->AddMember(First));
   EXPECT_FALSE(Scope->AddMember(MakeRef<TRTTIElement>(u"x")));
+  EXPECT_THROW(Scope->AddMember(nullptr), EAssertionFailed);
   EXPECT_EQ(Scope->GetMembers()->GetCount(), 1);
   EXPECT_EQ(Scope->GetMembers()->GetItems(0), Ref<IRTTIElement>(First));
   // A name equal to a member's UML id is taken too.
