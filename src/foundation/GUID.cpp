@@ -57,9 +57,7 @@ String GUID::ToString() const {
   return u"{" + FromLatin1(Text) + u"}";
 }
 
-bool IsNullGUID(const GUID& Guid) {
-  return Guid == nullGUID;
-}
+bool IsNullGUID(const GUID& Guid) { return Guid == nullGUID; }
 
 std::size_t GUIDHash::operator()(const GUID& G) const noexcept {
   std::uint64_t Low, High;

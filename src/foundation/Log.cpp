@@ -19,9 +19,7 @@ void CSLogMessageStr(const String& Name, const String& Value) {
 TLogMessageProc LogMessage = CSLogMessage;
 TLogMessageStrProc LogMessageStr = CSLogMessageStr;
 
-String FormatLogPair(const String& Name, const String& Value) {
-  return Name + u": " + Value;
-}
+String FormatLogPair(const String& Name, const String& Value) { return Name + u": " + Value; }
 
 TLogCapture::TLogCapture()
     : FPrevious(ActiveCapture), FSavedMessage(LogMessage), FSavedMessageStr(LogMessageStr) {
@@ -43,9 +41,7 @@ std::size_t TLogCapture::Count(StringView Text) const {
   return N;
 }
 
-void TLogCapture::Capture(const String& Text) {
-  ActiveCapture->FLines.push_back(Text);
-}
+void TLogCapture::Capture(const String& Text) { ActiveCapture->FLines.push_back(Text); }
 
 void TLogCapture::CaptureStr(const String& Name, const String& Value) {
   ActiveCapture->FLines.push_back(FormatLogPair(Name, Value));

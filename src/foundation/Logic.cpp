@@ -26,9 +26,7 @@ const TRTTIExtendedBoolean (&truth_table_implies)[9] = TruthTables.Implies;
 const TRTTIExtendedBoolean (&truth_table_not)[3] = TruthTables.Not;
 const GUID& nullGUID = TruthTables.Null;
 
-String ExtendedBooleanToString(TRTTIExtendedBoolean Value) {
-  return BooleanNames[Value];
-}
+String ExtendedBooleanToString(TRTTIExtendedBoolean Value) { return BooleanNames[Value]; }
 
 TRTTIExtendedBoolean StringToExtendedBoolean(StringView Text) {
   String Lower(Text);

@@ -54,12 +54,8 @@ void AppendUTF8(std::string& Out, std::uint32_t Code) {
   }
 }
 
-bool IsHighSurrogate(char16_t C) {
-  return C >= 0xD800 && C <= 0xDBFF;
-}
-bool IsLowSurrogate(char16_t C) {
-  return C >= 0xDC00 && C <= 0xDFFF;
-}
+bool IsHighSurrogate(char16_t C) { return C >= 0xD800 && C <= 0xDBFF; }
+bool IsLowSurrogate(char16_t C) { return C >= 0xDC00 && C <= 0xDFFF; }
 
 }  // namespace
 
@@ -113,8 +109,6 @@ std::string ToLatin1(StringView Text) {
   return Result;
 }
 
-String IntToStr(std::int64_t Value) {
-  return FromLatin1(std::to_string(Value));
-}
+String IntToStr(std::int64_t Value) { return FromLatin1(std::to_string(Value)); }
 
 }  // namespace gello

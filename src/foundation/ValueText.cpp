@@ -45,8 +45,7 @@ void PrintDigits(Extended Value, int Precision, std::string& Digits, int& Expone
 int RoundsUp(const std::string& Digits, std::size_t Keep) {
   if (Keep >= Digits.size() || Digits[Keep] < '5') return 0;
   if (Digits[Keep] > '5') return 1;
-  const bool RestZero =
-      std::all_of(Digits.begin() + Keep + 1, Digits.end(), [](char C) { return C == '0'; });
+  const bool RestZero = std::all_of(Digits.begin() + Keep + 1, Digits.end(), [](char C) { return C == '0'; });
   return RestZero ? -1 : 1;
 }
 
@@ -70,8 +69,7 @@ TDecimal ToDecimal(Extended Value, int Precision, int Decimals) {
   Digits.resize(Keep);
   if (Up) {
     int i = Keep - 1;
-    while (i >= 0 && Digits[i] == '9')
-      Digits[i--] = '0';
+    while (i >= 0 && Digits[i] == '9') Digits[i--] = '0';
     if (i >= 0) {
       ++Digits[i];
     } else {
@@ -79,8 +77,7 @@ TDecimal ToDecimal(Extended Value, int Precision, int Decimals) {
       ++Exponent;
     }
   }
-  while (!Digits.empty() && Digits.back() == '0')
-    Digits.pop_back();
+  while (!Digits.empty() && Digits.back() == '0') Digits.pop_back();
   if (Digits.empty()) return Result;
   Result.Negative = Value < 0;
   Result.Digits = std::move(Digits);
@@ -88,9 +85,7 @@ TDecimal ToDecimal(Extended Value, int Precision, int Decimals) {
   return Result;
 }
 
-std::string Sign(const TDecimal& D) {
-  return D.Negative ? "-" : "";
-}
+std::string Sign(const TDecimal& D) { return D.Negative ? "-" : ""; }
 
 std::string Scientific(const TDecimal& D) {
   std::string Text = Sign(D) + D.Digits.substr(0, 1);
@@ -126,26 +121,21 @@ std::string Fixed(Extended Value, int Precision, int Decimals) {
   return Plain(D, Decimals);
 }
 
-bool IsDigit(char C) {
-  return C >= '0' && C <= '9';
-}
+bool IsDigit(char C) { return C >= '0' && C <= '9'; }
 
 // [+-] digits [. digits] [(e|E) [+-] digits], with digits on at least one side of the point.
 bool IsDecimalNumber(const std::string& S) {
   std::size_t i = 0, Mantissa = 0;
   if (i < S.size() && (S[i] == '+' || S[i] == '-')) ++i;
-  for (; i < S.size() && IsDigit(S[i]); ++i)
-    ++Mantissa;
+  for (; i < S.size() && IsDigit(S[i]); ++i) ++Mantissa;
   if (i < S.size() && S[i] == '.')
-    for (++i; i < S.size() && IsDigit(S[i]); ++i)
-      ++Mantissa;
+    for (++i; i < S.size() && IsDigit(S[i]); ++i) ++Mantissa;
   if (Mantissa == 0) return false;
   if (i < S.size() && (S[i] == 'e' || S[i] == 'E')) {
     ++i;
     if (i < S.size() && (S[i] == '+' || S[i] == '-')) ++i;
     const std::size_t ExponentStart = i;
-    while (i < S.size() && IsDigit(S[i]))
-      ++i;
+    while (i < S.size() && IsDigit(S[i])) ++i;
     if (i == ExponentStart) return false;
   }
   return i == S.size();

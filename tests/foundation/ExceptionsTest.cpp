@@ -14,8 +14,7 @@ TEST(Exceptions, AssertionCarriesTextUnitAndLine) {
     EXPECT_EQ(E.Text(), u"Adding null element to list");
     EXPECT_EQ(E.Unit(), "ExceptionsTest.cpp");
     EXPECT_EQ(E.Line(), __LINE__ - 5);
-    EXPECT_EQ(E.Message(), u"Adding null element to list (ExceptionsTest.cpp, line " +
-                               IntToStr(E.Line()) + u")");
+    EXPECT_EQ(E.Message(), u"Adding null element to list (ExceptionsTest.cpp, line " + IntToStr(E.Line()) + u")");
   }
   EXPECT_STREQ(Exception(u"caf\u00E9").what(), "caf\xC3\xA9");
 }

@@ -18,9 +18,8 @@ TEST(GUID, TextFormRoundTripsAndMatchesTheLiteral) {
 }
 
 TEST(GUID, RejectsTextThatIsNotABracedGUID) {
-  for (const char16_t* Bad :
-       {u"", u"0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9", u"{0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8FZ}",
-        u"{0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9"}) {
+  for (const char16_t* Bad : {u"", u"0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9",
+                              u"{0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8FZ}", u"{0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9"}) {
     try {
       GUID::Parse(Bad);
       ADD_FAILURE() << "accepted " << ToUTF8(Bad);

@@ -57,8 +57,7 @@ TEST(Logic, BooleanTextConvertsBothWays) {
       ADD_FAILURE() << "accepted " << ToUTF8(Bad);
     } catch (const EConvertError& E) {
       String Lower(Bad);
-      for (auto& C : Lower)
-        C = (C >= u'A' && C <= u'Z') ? C + 32 : C;
+      for (auto& C : Lower) C = (C >= u'A' && C <= u'Z') ? C + 32 : C;
       EXPECT_EQ(E.Message(), u"bad StringToExtendedBoolean conversion: " + Lower);
     }
   }

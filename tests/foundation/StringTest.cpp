@@ -36,9 +36,7 @@ TEST(String, MalformedUTF8IsReplacedOrRejected) {
 
 TEST(String, LoneSurrogatesAreReplacedOrRejected) {
   const String Lone = {u'a', char16_t(0xD800), u'b', char16_t(0xDC00)};
-  EXPECT_EQ(ToUTF8(Lone),
-            "a\xEF\xBF\xBD"
-            "b\xEF\xBF\xBD");
+  EXPECT_EQ(ToUTF8(Lone), "a\xEF\xBF\xBD" "b\xEF\xBF\xBD");
   EXPECT_THROW(ToUTF8(Lone, TMalformed::Reject), EConvertError);
 }
 

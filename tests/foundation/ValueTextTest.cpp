@@ -21,9 +21,7 @@ void ExpectBits(Extended Value, std::uint64_t Mantissa, std::uint16_t SignExpone
   EXPECT_EQ(SE, SignExponent);
 }
 
-String General(Extended V, bool High = false) {
-  return ExtendedToString(V, High, -1);
-}
+String General(Extended V, bool High = false) { return ExtendedToString(V, High, -1); }
 
 // Switches the process to a locale whose decimal separator is a comma, where one is installed.
 class CommaLocale {
@@ -61,8 +59,8 @@ TEST(ValueText, ParsingAcceptsOnlyDecimalNumbers) {
   EXPECT_EQ(StringToExtended(u"1.5E10"), 1.5e10L);
   EXPECT_EQ(StringToExtended(u"2e-3"), 2e-3L);
   EXPECT_EQ(StringToExtended(u"0.1"), 0.1L);  // correctly rounded to 64 bits
-  for (const char16_t* Bad : {u"1,5", u"nan", u"inf", u"Infinity", u"", u" 1", u"1 ", u"1e",
-                              u"0x10", u".", u"1.5.2", u"\u0661"}) {
+  for (const char16_t* Bad : {u"1,5", u"nan", u"inf", u"Infinity", u"", u" 1", u"1 ", u"1e", u"0x10",
+                              u".", u"1.5.2", u"\u0661"}) {
     try {
       StringToExtended(Bad);
       ADD_FAILURE() << "accepted " << ToUTF8(Bad);
@@ -92,12 +90,12 @@ TEST(ValueText, GeneralFormChoosesPlainOrScientific) {
 
 TEST(ValueText, FixedFormRoundsHalfAwayFromZero) {
   EXPECT_EQ(ExtendedToString(2, false, 3), u"2.000");
-  EXPECT_EQ(ExtendedToString(0.125L, false, 2), u"0.13");  // exact tie
+  EXPECT_EQ(ExtendedToString(0.125L, false, 2), u"0.13");   // exact tie
   EXPECT_EQ(ExtendedToString(-0.125L, false, 2), u"-0.13");
   EXPECT_EQ(ExtendedToString(2.5L, false, 0), u"3");
   EXPECT_EQ(ExtendedToString(0.0001L, false, 2), u"0.00");
   EXPECT_EQ(ExtendedToString(-0.001L, false, 2), u"0.00");
-  EXPECT_EQ(ExtendedToString(1.005L, false, 2), u"1.00");  // 1.005 lies below the tie in binary
+  EXPECT_EQ(ExtendedToString(1.005L, false, 2), u"1.00");   // 1.005 lies below the tie in binary
   EXPECT_EQ(ExtendedToString(9.999L, false, 2), u"10.00");
   EXPECT_EQ(ExtendedToString(1.5L, false, 25), u"1.500000000000000000");  // clamped to 18
   EXPECT_EQ(ExtendedToString(1e20L, false, 2), u"1E20");  // more integer digits than precision

@@ -64,7 +64,7 @@ class EDivByZero : public Exception {
 }  // namespace gello
 
 /// Checks a contract; on failure raises EAssertionFailed with Text, this file and line.
-#define GELLO_ASSERT(Condition, Text)                                     \
-  do {                                                                    \
+#define GELLO_ASSERT(Condition, Text) \
+  do {                                \
     if (!(Condition)) ::gello::AssertionFailed(Text, __FILE__, __LINE__); \
   } while (false)

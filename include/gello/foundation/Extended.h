@@ -6,7 +6,6 @@ namespace gello {
 
 /// 80-bit extended float (64-bit mantissa).
 using Extended = long double;
-static_assert(std::numeric_limits<Extended>::digits == 64,
-              "Extended must be the x87 80-bit format");
+static_assert(std::numeric_limits<Extended>::digits == 64, "Extended must be the x87 80-bit format");
 
 }  // namespace gello

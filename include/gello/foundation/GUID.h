@@ -38,8 +38,7 @@ constexpr std::uint32_t HexDigit(char C) {
 }
 constexpr std::uint32_t HexField(const char* Text, int Count) {
   std::uint32_t Result = 0;
-  for (int i = 0; i < Count; ++i)
-    Result = Result << 4 | HexDigit(Text[i]);
+  for (int i = 0; i < Count; ++i) Result = Result << 4 | HexDigit(Text[i]);
   return Result;
 }
 }  // namespace detail
@@ -51,8 +50,7 @@ consteval GUID GUIDLiteral(const char (&Text)[39]) {
   G.D2 = static_cast<std::uint16_t>(detail::HexField(Text + 10, 4));
   G.D3 = static_cast<std::uint16_t>(detail::HexField(Text + 15, 4));
   const int Offsets[8] = {20, 22, 25, 27, 29, 31, 33, 35};
-  for (int i = 0; i < 8; ++i)
-    G.D4[i] = static_cast<std::uint8_t>(detail::HexField(Text + Offsets[i], 2));
+  for (int i = 0; i < 8; ++i) G.D4[i] = static_cast<std::uint8_t>(detail::HexField(Text + Offsets[i], 2));
   return G;
 }
 

@@ -12,8 +12,7 @@ namespace gello {
 Extended StringToExtended(StringView Text);
 
 /// Formats a real with 18 (HighPrecision) or 15 significant digits: the general form when
-/// Digits is negative, else fixed with Digits decimals. NaN and infinities give "NAN", "INF",
-/// "-INF".
+/// Digits is negative, else fixed with Digits decimals. NaN and infinities give "NAN", "INF", "-INF".
 String ExtendedToString(Extended Value, bool HighPrecision, std::int32_t Digits);
 
 }  // namespace gello
