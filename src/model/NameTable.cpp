@@ -13,7 +13,7 @@ std::size_t TNameTable::Locate(const String& Name, std::size_t Hash) const {
   // The slot that holds Name, or the free slot that ends its probe run.
   const std::size_t Mask = FSlots.size() - 1;
   std::size_t i = Hash & Mask;
-  while (FSlots[i].Element && (FSlots[i].Hash != Hash || FSlots[i].Name != Name))
+  while (FSlots[i].Element && (FSlots[i].Hash != Hash || FSlots[i].Element->GetName() != Name))
     i = (i + 1) & Mask;
   return i;
 }
@@ -30,7 +30,7 @@ IRTTIElement* TNameTable::Put(IRTTIElement* Element) {
   TSlot& Slot = FSlots[Locate(Name, Hash)];
   IRTTIElement* Displaced = Slot.Element;
   if (!Displaced) ++FCount;
-  Slot = TSlot{Hash, Element, Name};
+  Slot = TSlot{Hash, Element};
   return Displaced;
 }
 
@@ -45,7 +45,7 @@ void TNameTable::Erase(const String& Name) {
     const std::size_t Home = FSlots[j].Hash & Mask;
     const bool HomeBetween = Hole <= j ? (Hole < Home && Home <= j) : (Hole < Home || Home <= j);
     if (HomeBetween) continue;
-    FSlots[Hole] = std::move(FSlots[j]);
+    FSlots[Hole] = FSlots[j];
     Hole = j;
   }
   FSlots[Hole] = TSlot{};

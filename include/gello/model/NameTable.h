@@ -7,8 +7,8 @@
 
 namespace gello {
 
-/// Name to one element, by open addressing: a lookup probes one short run of slots that hold the
-/// names themselves, and touches no element. Holds no references; empty names are not kept.
+/// Name to one element, by open addressing: a lookup probes one short run of 16-byte slots and
+/// then reads the name of the element it finds. Holds no references; empty names are not kept.
 class TNameTable {
  public:
   /// The element named Name, or null.
@@ -25,7 +25,6 @@ class TNameTable {
   struct TSlot {
     std::size_t Hash = 0;
     IRTTIElement* Element = nullptr;  // null: free
-    String Name;
   };
   std::size_t Locate(const String& Name, std::size_t Hash) const;
   void Grow();
