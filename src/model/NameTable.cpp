@@ -13,7 +13,7 @@ std::size_t TNameTable::Locate(const String& Name, std::size_t Hash) const {
   // The slot that holds Name, or the free slot that ends its probe run.
   const std::size_t Mask = FSlots.size() - 1;
   std::size_t i = Hash & Mask;
-  while (FSlots[i].Element && (FSlots[i].Hash != Hash || FSlots[i].Element->GetName() != Name))
+  while (FSlots[i].Element && (FSlots[i].Hash != Hash || !FSlots[i].Element->IsNamed(Name)))
     i = (i + 1) & Mask;
   return i;
 }

@@ -15,6 +15,7 @@ class TRTTIElement : public virtual IRTTIElement {
 
   String GetName() const override { return FName; }
   void SetName(const String& Value) override;
+  bool IsNamed(const String& Name) const override { return FName == Name; }
   String GetAnnotation() const override { return FAnnotation; }
   void SetAnnotation(const String& Value) override { FAnnotation = Value; }
   Ref<IRTTIDebugInfo> GetDebugInfo() const override { return FDebugInfo; }

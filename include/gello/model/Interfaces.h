@@ -42,6 +42,8 @@ struct IRTTIElement : virtual RefCounted {
   static constexpr GUID IID = GUIDLiteral("{0E8BD1BB-A38F-460C-BA75-678A75567A22}");
   virtual String GetName() const = 0;
   virtual void SetName(const String& Value) = 0;
+  /// Whether the name is Name (compares without copying it).
+  virtual bool IsNamed(const String& Name) const = 0;
   virtual String GetAnnotation() const = 0;
   virtual void SetAnnotation(const String& Value) = 0;
   virtual Ref<IRTTIDebugInfo> GetDebugInfo() const = 0;
