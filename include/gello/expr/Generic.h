@@ -1,0 +1,16 @@
+#pragma once
+// The generic parameter class (T of the generic collections).
+#include "gello/model/Class.h"
+
+namespace gello {
+
+/// A class that stands for any type: every class test it makes succeeds.
+class TRTTIGeneric : public TRTTIClass {
+ public:
+  static constexpr StringView KindName = u"Generic";
+  using TRTTIClass::TRTTIClass;
+  String GetKind() const override { return String(KindName); }
+  bool IsGeneric() const override { return true; }
+};
+
+}  // namespace gello

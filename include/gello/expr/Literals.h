@@ -1,0 +1,118 @@
+#pragma once
+// Constant nodes with a text form: what the model files store and printers show.
+#include <cstdint>
+
+#include "gello/expr/Value.h"
+
+namespace gello {
+
+/// A constant value node; its text form is GetasString / SetasString.
+class TRTTILiteral : public TRTTIValue, public virtual IRTTILiteral {
+ public:
+  using TRTTIValue::TRTTIValue;
+};
+
+/// A constant kept as its text, unchanged.
+class TRTTITextLiteral : public TRTTILiteral {
+ public:
+  using TRTTILiteral::TRTTILiteral;
+  TRTTITextLiteral(const Ref<IRTTIClass>& Class, const String& Text);
+  String GetasString() const override { return FText; }
+  void SetasString(const String& Value) override { FText = Value; }
+
+ private:
+  String FText;
+};
+
+/// A string constant.
+class TRTTIStringLiteral : public TRTTITextLiteral {
+ public:
+  static constexpr StringView KindName = u"StringLiteral";
+  using TRTTITextLiteral::TRTTITextLiteral;
+  String GetKind() const override { return String(KindName); }
+};
+
+/// A 64-bit integer constant whose text is read back as a 32-bit integer.
+class TRTTIIntegerLiteral : public TRTTILiteral {
+ public:
+  static constexpr StringView KindName = u"IntegerLiteral";
+  explicit TRTTIIntegerLiteral(const String& Name) : TRTTILiteral(Name) {}
+  TRTTIIntegerLiteral(const Ref<IRTTIClass>& Class, std::int64_t Value);
+  String GetKind() const override { return String(KindName); }
+  std::int64_t GetValue() const { return FValue; }
+  String GetasString() const override { return IntToStr(FValue); }
+  /// Raises EConvertError for text that is not a 32-bit decimal integer; the value is kept.
+  void SetasString(const String& Value) override;
+
+ private:
+  std::int64_t FValue = 0;
+};
+
+/// A real constant held as a 64-bit float; its text goes through the engine's real form.
+class TRTTIRealLiteral : public TRTTILiteral {
+ public:
+  static constexpr StringView KindName = u"RealLiteral";
+  explicit TRTTIRealLiteral(const String& Name) : TRTTILiteral(Name) {}
+  TRTTIRealLiteral(const Ref<IRTTIClass>& Class, double Value);
+  String GetKind() const override { return String(KindName); }
+  double GetValue() const { return FValue; }
+  String GetasString() const override;
+  void SetasString(const String& Value) override;
+
+ private:
+  double FValue = 0;
+};
+
+/// A three-valued boolean constant.
+class TRTTIBooleanLiteral : public TRTTILiteral {
+ public:
+  static constexpr StringView KindName = u"BooleanLiteral";
+  explicit TRTTIBooleanLiteral(const String& Name) : TRTTILiteral(Name) {}
+  TRTTIBooleanLiteral(const Ref<IRTTIClass>& Class, TRTTIExtendedBoolean Value);
+  /// A plain boolean keeps its ordinal: false is rtti_false, true is rtti_true.
+  TRTTIBooleanLiteral(const Ref<IRTTIClass>& Class, bool Value);
+  String GetKind() const override { return String(KindName); }
+  TRTTIExtendedBoolean GetValue() const { return FValue; }
+  String GetasString() const override { return ExtendedBooleanToString(FValue); }
+  void SetasString(const String& Value) override { FValue = StringToExtendedBoolean(Value); }
+
+ private:
+  TRTTIExtendedBoolean FValue = rtti_false;
+};
+
+/// The null constant: always "null", whatever text it is given.
+class TRTTINullLiteral : public TRTTILiteral {
+ public:
+  static constexpr StringView KindName = u"NullLiteral";
+  explicit TRTTINullLiteral(const String& Name) : TRTTILiteral(Name) {}
+  explicit TRTTINullLiteral(const Ref<IRTTIClass>& Class) : TRTTILiteral(Class) {}
+  String GetKind() const override { return String(KindName); }
+  String GetasString() const override { return u"null"; }
+  void SetasString(const String&) override {}
+};
+
+/// A constant that denotes a class by its name.
+class TRTTIClassLiteral : public TRTTITextLiteral {
+ public:
+  static constexpr StringView KindName = u"ClassLiteral";
+  using TRTTITextLiteral::TRTTITextLiteral;
+  String GetKind() const override { return String(KindName); }
+};
+
+/// A literal of an enumeration: its text is its name, its ordinal its position.
+class TRTTIEnumLiteral : public TRTTILiteral {
+ public:
+  static constexpr StringView KindName = u"EnumLiteral";
+  explicit TRTTIEnumLiteral(const String& Name) : TRTTILiteral(Name) {}
+  TRTTIEnumLiteral(const String& Name, const Ref<IRTTIClass>& Class, std::int32_t Ordinal);
+  String GetKind() const override { return String(KindName); }
+  std::int32_t GetOrdinal() const { return FOrdinal; }
+  String GetasString() const override { return GetName(); }
+  /// Names the literal; names are write-once.
+  void SetasString(const String& Value) override { SetName(Value); }
+
+ private:
+  std::int32_t FOrdinal = 0;
+};
+
+}  // namespace gello

@@ -1,0 +1,27 @@
+#pragma once
+// Expression nodes: every node is an element with a value type.
+#include "gello/model/Element.h"
+
+namespace gello {
+
+/// A node of a compiled expression; the value type is the type of its result.
+class TRTTIValue : public TRTTIElement, public virtual IRTTIValue {
+ public:
+  static constexpr StringView KindName = u"Value";
+  /// The reader's form: named, without a type yet.
+  explicit TRTTIValue(const String& Name);
+  /// An unnamed node of that type.
+  explicit TRTTIValue(const Ref<IRTTIClass>& ValueType);
+  ~TRTTIValue() override;
+
+  String GetKind() const override { return String(KindName); }
+  Ref<IRTTIClass> GetValueType() const override { return FValueType; }
+  void SetValueType(const Ref<IRTTIClass>& Value) override { FValueType = Value; }
+  void Resolve(IRTTIScope* Scope) override;
+  void Clear() override;
+
+ private:
+  Ref<IRTTIClass> FValueType;
+};
+
+}  // namespace gello

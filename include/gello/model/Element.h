@@ -1,0 +1,55 @@
+#pragma once
+// The element base class: identity, write-once naming, identifiers and default type answers.
+#include <cstdint>
+
+#include "gello/model/Interfaces.h"
+
+namespace gello {
+
+/// Base of every model element; subclasses refine the type questions and Resolve.
+class TRTTIElement : public virtual IRTTIElement {
+ public:
+  static constexpr StringView KindName = u"Element";
+  explicit TRTTIElement(const String& Name = {});
+  ~TRTTIElement() override;
+
+  String GetName() const override { return FName; }
+  void SetName(const String& Value) override;
+  bool IsNamed(const String& Name) const override { return FName == Name; }
+  String GetAnnotation() const override { return FAnnotation; }
+  void SetAnnotation(const String& Value) override { FAnnotation = Value; }
+  Ref<IRTTIDebugInfo> GetDebugInfo() const override { return FDebugInfo; }
+  void SetDebugInfo(const Ref<IRTTIDebugInfo>& Value) override { FDebugInfo = Value; }
+  bool GetHidden() const override { return FHidden; }
+  void SetHidden(bool Value) override { FHidden = Value; }
+  bool GetResolved() const override { return FResolved; }
+  void SetResolved(bool Value) override { FResolved = Value; }
+  String GetKind() const override { return String(KindName); }
+  String ExternalTypeName() const override { return GetKind(); }
+  GUID GetGUID() override;
+  String GetUML_ID() override;
+  void SetUML_ID(const String& Value) override;
+  String PeekUML_ID() const override;
+  void Resolve(IRTTIScope* Scope) override;
+  bool Compatible(IRTTIClass* Other) override;
+  bool Derives(IRTTIClass* Other, IRTTIElementList& Path) override;
+  void WalkClasses(IRTTIElementList& List) override;
+  void Clear() override;
+
+ private:
+  String FAnnotation;
+  GUID FGUID;
+  Ref<IRTTIDebugInfo> FDebugInfo;
+  bool FHidden = false;
+  String FName;
+  bool FResolved = false;
+  String FUML_ID;
+};
+
+/// Changes whenever an element gets a GUID or a UML id is set, so caches of ids know to refresh.
+std::uint64_t UMLIdEpoch();
+
+/// The class that Class's name denotes as seen from Scope; Class itself when Scope knows none.
+Ref<IRTTIClass> ResolveClass(const Ref<IRTTIClass>& Class, IRTTIScope* Scope);
+
+}  // namespace gello

@@ -1,0 +1,31 @@
+#pragma once
+// The element-class registry: readers create elements by kind word (a class name without "TRTTI").
+#include <initializer_list>
+
+#include "gello/model/Interfaces.h"
+
+namespace gello {
+
+/// Makes an element of one class with the given name (the class's virtual constructor).
+using TElementFactory = Ref<IRTTIElement> (*)(const String& Name);
+
+/// A registered element class: its kind word and its factory.
+struct TRTTIElementClass {
+  String Kind;
+  TElementFactory Create;
+};
+
+/// The registry entry of element class T, which declares its KindName.
+template <class T>
+TRTTIElementClass RTTIClassOf() {
+  return {String(T::KindName),
+          [](const String& Name) -> Ref<IRTTIElement> { return MakeRef<T>(Name); }};
+}
+
+/// Registers element classes by kind; a kind registered again takes the newer class.
+void RegisterRTTI(std::initializer_list<TRTTIElementClass> Classes);
+
+/// A new element of that kind and name; empty for an empty kind; raises for an unknown kind.
+Ref<IRTTIElement> CreateForReader(const String& Kind, const String& Name);
+
+}  // namespace gello

@@ -1,0 +1,30 @@
+#include "gello/model/ElementRegistry.h"
+
+#include <unordered_map>
+
+#include "gello/foundation/Exceptions.h"
+
+namespace gello {
+namespace {
+
+// Filled during module initialisation, before concurrent use.
+std::unordered_map<String, TElementFactory>& Registry() {
+  static std::unordered_map<String, TElementFactory> Classes;
+  return Classes;
+}
+
+}  // namespace
+
+void RegisterRTTI(std::initializer_list<TRTTIElementClass> Classes) {
+  for (const TRTTIElementClass& Class : Classes)
+    Registry()[Class.Kind] = Class.Create;
+}
+
+Ref<IRTTIElement> CreateForReader(const String& Kind, const String& Name) {
+  if (Kind.empty()) return nullptr;
+  auto Found = Registry().find(Kind);
+  if (Found == Registry().end()) throw Exception(u"RTTI class name not registered : TRTTI" + Kind);
+  return Found->second(Name);
+}
+
+}  // namespace gello

@@ -1,0 +1,21 @@
+// Registers the model's element kinds when the library is loaded, so readers can create them.
+#include "gello/model/Class.h"
+#include "gello/model/ClassAlias.h"
+#include "gello/model/ElementRegistry.h"
+#include "gello/model/Factory.h"
+#include "gello/model/Method.h"
+#include "gello/model/Package.h"
+#include "gello/model/Property.h"
+
+namespace gello {
+namespace {
+
+[[maybe_unused]] const bool Registered = [] {
+  RegisterRTTI({RTTIClassOf<TRTTIClass>(), RTTIClassOf<TRTTIClassAlias>(),
+                RTTIClassOf<TRTTIProperty>(), RTTIClassOf<TRTTIMethod>(),
+                RTTIClassOf<TRTTIPackage>(), RTTIClassOf<TRTTIFactory>()});
+  return true;
+}();
+
+}  // namespace
+}  // namespace gello
