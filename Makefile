@@ -7,7 +7,7 @@ ifeq ($(CI),true)
 CMAKE_FLAGS += -DGELLO_WERROR=ON
 endif
 
-.PHONY: deps build test demo bench test-sanitize clean
+.PHONY: deps build test demo bench test-sanitize fuzz clean
 
 deps:
 	scripts/install-deps.sh
@@ -31,5 +31,11 @@ test-sanitize: deps
 	cmake --build $(ASAN_BUILD) -j $(JOBS)
 	ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 ctest --test-dir $(ASAN_BUILD) --output-on-failure -j $(JOBS)
 
+# Builds the fuzz targets with clang's libFuzzer; run one with e.g.
+#   build-fuzz/tests/fuzz/fuzz_xml_reader -max_total_time=300 tests/fuzz/corpus/xml_reader
+fuzz: deps
+	CXX=clang++ cmake -S . -B build-fuzz -G Ninja -DGELLO_FUZZ=ON -DGELLO_SANITIZE=ON -DGELLO_BENCH=OFF
+	cmake --build build-fuzz -j $(JOBS)
+
 clean:
-	rm -rf $(BUILD) $(ASAN_BUILD)
+	rm -rf $(BUILD) $(ASAN_BUILD) build-fuzz
