@@ -2,7 +2,9 @@
 #include "gello/model/Class.h"
 #include "gello/model/ClassAlias.h"
 #include "gello/model/ElementRegistry.h"
+#include "gello/model/Factory.h"
 #include "gello/model/Method.h"
+#include "gello/model/Package.h"
 #include "gello/model/Property.h"
 
 namespace gello {
@@ -10,7 +12,8 @@ namespace {
 
 [[maybe_unused]] const bool Registered = [] {
   RegisterRTTI({RTTIClassOf<TRTTIClass>(), RTTIClassOf<TRTTIClassAlias>(),
-                RTTIClassOf<TRTTIProperty>(), RTTIClassOf<TRTTIMethod>()});
+                RTTIClassOf<TRTTIProperty>(), RTTIClassOf<TRTTIMethod>(),
+                RTTIClassOf<TRTTIPackage>(), RTTIClassOf<TRTTIFactory>()});
   return true;
 }();
 

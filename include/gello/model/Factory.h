@@ -1,0 +1,15 @@
+#pragma once
+// The value node that stands for making an instance of a class.
+#include "gello/expr/Value.h"
+
+namespace gello {
+
+/// A value typed by the class it makes instances of.
+class TRTTIFactory : public TRTTIValue {
+ public:
+  static constexpr StringView KindName = u"Factory";
+  using TRTTIValue::TRTTIValue;
+  String GetKind() const override { return String(KindName); }
+};
+
+}  // namespace gello

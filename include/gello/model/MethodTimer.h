@@ -1,0 +1,24 @@
+#pragma once
+// A scoped timer for long model operations, reported through the log.
+#include <chrono>
+
+#include "gello/foundation/RefCounted.h"
+#include "gello/foundation/String.h"
+
+namespace gello {
+
+/// Logs when it starts, and the seconds taken when its last reference goes.
+class TMethodTimer : public RefCounted {
+ public:
+  explicit TMethodTimer(const String& Message);
+  ~TMethodTimer() override;
+
+ private:
+  String FMessage;
+  std::chrono::steady_clock::time_point FStart;
+};
+
+/// Starts timing Message; the timing ends when the result is released.
+Ref<TMethodTimer> MethodTimer(const String& Message);
+
+}  // namespace gello

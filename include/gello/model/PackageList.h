@@ -1,0 +1,16 @@
+#pragma once
+// The scope that holds the loaded packages.
+#include "gello/model/Scope.h"
+
+namespace gello {
+
+/// An unnamed scope of packages; it does not own them.
+class TRTTIPackageList : public TRTTIScope, public virtual IRTTIPackageList {
+ public:
+  static constexpr StringView KindName = u"PackageList";
+  explicit TRTTIPackageList(const String& Name = {}) : TRTTIScope(Name) {}
+  String GetKind() const override { return String(KindName); }
+  Ref<IRTTIPackage> FindPackage(const String& Name) override { return Find<IRTTIPackage>(Name); }
+};
+
+}  // namespace gello

@@ -1,0 +1,89 @@
+#include "gello/model/Globals.h"
+
+#include "gello/expr/Generic.h"
+#include "gello/model/Class.h"
+
+namespace gello {
+
+TRTTIGlobals::TRTTIGlobals() : TRTTIPackage(u"Globals") {
+  FSystem = MakeRef<TRTTIPackage>(u"System");
+  AddMember(FSystem);
+  FT = MakeRef<TRTTIGeneric>(u"T");
+  FSystem->AddMember(FT);
+  FUndefined = MakeClass(u"_Undefined_", nullptr, u"OCLUndefined", rtti_undefined);
+  FUntyped = MakeClass(u"_Untyped_", nullptr, u"OCLUndefined", rtti_undefined);
+  FAny = MakeClass(u"Any", nullptr, u"OCLAny", rtti_class);
+  FReal = MakeClass(u"Real", FAny, u"OCLReal", rtti_real);
+  FString = MakeClass(u"String", FAny, u"OCLString", rtti_string);
+  FBoolean = MakeClass(u"Boolean", FAny, u"OCLBoolean", rtti_boolean);
+  FInteger = MakeClass(u"Integer", FReal, u"OCLInteger", rtti_integer);
+  // Collection(T) keeps Any's kind: only the concrete collections are marked as collections.
+  FCollection = MakeCollection(u"Collection(T)", FAny, u"OCLCollection", rtti_class, FT);
+  FSet = MakeCollection(u"Set(T)", FCollection, u"OCLSet", rtti_set, FT);
+  FBag = MakeCollection(u"Bag(T)", FCollection, u"OCLBag", rtti_bag, FT);
+  FSequence = MakeCollection(u"Sequence(T)", FCollection, u"OCLSequence", rtti_sequence, FT);
+  FTuple = MakeClass(u"Tuple", FAny, u"OCLTuple", rtti_class);
+  FTuple->SetIsTuple(true);
+}
+
+TRTTIGlobals::~TRTTIGlobals() {
+  TRTTIGlobals::Clear();
+}
+
+Ref<IRTTIClass> TRTTIGlobals::MakeClass(const String& Name, const Ref<IRTTIClass>& Ancestor,
+                                        const String& HostClassName, TRTTIClassKind Kind) {
+  return MakeCollection(Name, Ancestor, HostClassName, Kind, nullptr);
+}
+
+Ref<IRTTIClass> TRTTIGlobals::MakeCollection(const String& Name, const Ref<IRTTIClass>& Ancestor,
+                                             const String& HostClassName, TRTTIClassKind Kind,
+                                             const Ref<IRTTIClass>& ElementType) {
+  auto Class = MakeRef<TRTTIClass>(Name, Ancestor, ElementType);
+  Class->SetHostClassName(HostClassName);
+  Class->SetClassKind(Kind);
+  FSystem->AddMember(Class);
+  return Class;
+}
+
+Ref<IRTTIPackage> TRTTIGlobals::Get_Main() {
+  if (!FMain) {
+    FMain = MakeRef<TRTTIPackage>(u"Main");
+    AddMember(FMain);
+  }
+  return FMain;
+}
+
+Ref<IRTTIClass> TRTTIGlobals::BuildClass(const String& Name) {
+  if (Name.empty()) return nullptr;
+  Ref<IRTTIClass> Found = FindClass(Name);
+  return Found ? Found : BuildClassRef(Name);
+}
+
+Ref<IRTTIClass> TRTTIGlobals::BuildCollection(const String& CollectionName,
+                                              const String& ElementName) {
+  // Nothing is cached: without a class of the full name each call makes a new placeholder.
+  Ref<IRTTIClass> Result = BuildClass(CollectionName + u"(" + ElementName + u")");
+  Result->SetAncestor(BuildClass(CollectionName));
+  Result->SetElementType(BuildClass(ElementName));
+  return Result;
+}
+
+Ref<IRTTIElement> TRTTIGlobals::Lookup(const String& Name, const GUID& InterfaceId) {
+  if (Ref<IRTTIElement> Found = Find(Name, InterfaceId)) return Found;
+  Ref<IRTTIElementList> Members = GetMembers();
+  for (int i = 0; Members && i < Members->GetCount(); ++i) {
+    auto Scope = DynCast<IRTTIScope>(Members->GetItems(i));
+    if (!Scope || Scope.get() == static_cast<IRTTIScope*>(this)) continue;
+    if (Ref<IRTTIElement> Found = Scope->Find(Name, InterfaceId)) return Found;
+  }
+  return nullptr;
+}
+
+void TRTTIGlobals::Clear() {
+  FT = FUndefined = FUntyped = FAny = FReal = FString = FBoolean = FInteger = nullptr;
+  FCollection = FSet = FBag = FSequence = FTuple = nullptr;
+  FSystem = FMain = FPackageScope = nullptr;
+  TRTTIPackage::Clear();
+}
+
+}  // namespace gello

@@ -1,0 +1,115 @@
+#include "gello/model/Globals.h"
+
+#include <gtest/gtest.h>
+
+#include "gello/model/Class.h"
+#include "gello/model/ElementList.h"
+
+using namespace gello;
+
+namespace {
+struct GlobalsTest : testing::Test {
+  Ref<TRTTIGlobals> Globals = MakeRef<TRTTIGlobals>();
+  void TearDown() override { Globals->Clear(); }
+};
+}  // namespace
+
+TEST_F(GlobalsTest, SystemHoldsTheBuiltInsInOrder) {
+  EXPECT_EQ(Globals->GetName(), u"Globals");
+  Ref<IRTTIPackage> System = Globals->Get_System();
+  ASSERT_EQ(Globals->GetMembers()->GetItems(0), Ref<IRTTIElement>(System));
+  Ref<IRTTIElementList> Members = System->GetMembers();
+  const char16_t* const Expected[][3] = {{u"T", u"", u"Generic"},
+                                         {u"_Undefined_", u"OCLUndefined", u"Class"},
+                                         {u"_Untyped_", u"OCLUndefined", u"Class"},
+                                         {u"Any", u"OCLAny", u"Class"},
+                                         {u"Real", u"OCLReal", u"Class"},
+                                         {u"String", u"OCLString", u"Class"},
+                                         {u"Boolean", u"OCLBoolean", u"Class"},
+                                         {u"Integer", u"OCLInteger", u"Class"},
+                                         {u"Collection(T)", u"OCLCollection", u"Class"},
+                                         {u"Set(T)", u"OCLSet", u"Class"},
+                                         {u"Bag(T)", u"OCLBag", u"Class"},
+                                         {u"Sequence(T)", u"OCLSequence", u"Class"},
+                                         {u"Tuple", u"OCLTuple", u"Class"}};
+  ASSERT_EQ(Members->GetCount(), 13);
+  for (int i = 0; i < 13; ++i) {
+    auto C = DynCast<IRTTIClass>(Members->GetItems(i));
+    ASSERT_TRUE(C);
+    EXPECT_EQ(C->GetName(), Expected[i][0]);
+    EXPECT_EQ(C->GetHostClassName(), Expected[i][1]);
+    EXPECT_EQ(C->GetKind(), Expected[i][2]);
+  }
+  EXPECT_TRUE(Globals->Get_T()->IsGeneric());
+  EXPECT_EQ(Globals->Get_Untyped()->GetName(), u"_Untyped_");
+  EXPECT_EQ(Globals->Get_Undefined()->GetName(), u"_Undefined_");
+}
+
+TEST_F(GlobalsTest, KindsAncestorsAndElementTypes) {
+  EXPECT_EQ(Globals->Get_T()->GetClassKind(), rtti_undefined);
+  EXPECT_EQ(Globals->Get_Any()->GetClassKind(), rtti_class);
+  EXPECT_EQ(Globals->Get_Real()->GetClassKind(), rtti_real);
+  EXPECT_EQ(Globals->Get_String()->GetClassKind(), rtti_string);
+  EXPECT_EQ(Globals->Get_Boolean()->GetClassKind(), rtti_boolean);
+  EXPECT_EQ(Globals->Get_Integer()->GetClassKind(), rtti_integer);
+  EXPECT_EQ(Globals->Get_Collection()->GetClassKind(), rtti_class);
+  EXPECT_EQ(Globals->Get_Set()->GetClassKind(), rtti_set);
+  EXPECT_EQ(Globals->Get_Bag()->GetClassKind(), rtti_bag);
+  EXPECT_EQ(Globals->Get_Sequence()->GetClassKind(), rtti_sequence);
+  EXPECT_EQ(Globals->Get_Tuple()->GetClassKind(), rtti_class);
+  EXPECT_TRUE(Globals->Get_Tuple()->GetIsTuple());
+  EXPECT_EQ(Globals->Get_Set()->GetAncestor(), Globals->Get_Collection());
+  EXPECT_EQ(Globals->Get_Set()->GetElementType(), Globals->Get_T());
+  EXPECT_EQ(Globals->Get_Integer()->GetAncestor(), Globals->Get_Real());
+  EXPECT_TRUE(Globals->Get_Integer()->IsClass(Globals->Get_Real().get()));
+  EXPECT_FALSE(Globals->Get_Real()->IsClass(Globals->Get_Integer().get()));
+  EXPECT_TRUE(Globals->Get_Integer()->HasAncestor(Globals->Get_Any().get()));
+  EXPECT_FALSE(Globals->Get_Undefined()->GetAncestor());
+  EXPECT_TRUE(Globals->Get_Set()->IsClass(Globals->Get_Collection().get()));  // by ancestry
+}
+
+TEST_F(GlobalsTest, LookupSearchesOneLevelSystemFirst) {
+  EXPECT_EQ(Globals->Lookup<IRTTIClass>(u"Integer"), Globals->Get_Integer());
+  EXPECT_EQ(Globals->Lookup<IRTTIPackage>(u"System"), Globals->Get_System());
+  auto User = MakeRef<TRTTIPackage>(u"User");
+  Globals->AddMember(User);
+  auto MyString = MakeRef<TRTTIClass>(u"String");
+  User->AddMember(MyString);
+  auto Patient = MakeRef<TRTTIClass>(u"Patient");
+  User->AddMember(Patient);
+  auto Nested = MakeRef<TRTTIPackage>(u"Nested");
+  User->AddMember(Nested);
+  Nested->AddMember(MakeRef<TRTTIClass>(u"Deep"));
+  EXPECT_EQ(Globals->Lookup<IRTTIClass>(u"String"), Globals->Get_String());
+  EXPECT_EQ(Globals->Lookup<IRTTIClass>(u"Patient"), Ref<IRTTIClass>(Patient));
+  EXPECT_FALSE(Globals->Lookup<IRTTIClass>(u"Deep"));                      // one level only
+  EXPECT_FALSE(Globals->Lookup(Patient->GetUML_ID(), IRTTIElement::IID));  // no UML id step
+  EXPECT_EQ(Globals->FindClass(u"Deep")->GetName(), u"Deep");  // the package search goes deeper
+}
+
+TEST_F(GlobalsTest, MainIsMadeOnceAndKept) {
+  Ref<IRTTIPackage> Main = Globals->Get_Main();
+  EXPECT_EQ(Main->GetName(), u"Main");
+  EXPECT_EQ(Globals->Get_Main(), Main);
+  EXPECT_EQ(Globals->Lookup<IRTTIPackage>(u"Main"), Main);
+  Globals->SetPackageScope(Main);
+  EXPECT_EQ(Globals->GetPackageScope(), Main);
+}
+
+TEST_F(GlobalsTest, BuildClassAndBuildCollectionMakePlaceholders) {
+  EXPECT_FALSE(Globals->BuildClass(u""));
+  EXPECT_EQ(Globals->BuildClass(u"Integer"), Globals->Get_Integer());
+  Ref<IRTTIClass> Unknown = Globals->BuildClass(u"Unknown");
+  EXPECT_EQ(Unknown->GetName(), u"Unknown");
+  EXPECT_FALSE(Unknown->GetAncestor());
+  EXPECT_TRUE(Unknown->GetOwnsMembers());
+  EXPECT_FALSE(Globals->FindClass(u"Unknown"));  // added to no package
+  EXPECT_NE(Globals->BuildClass(u"Unknown"), Unknown);
+
+  Ref<IRTTIClass> SetOfInteger = Globals->BuildCollection(u"Set", u"Integer");
+  EXPECT_EQ(SetOfInteger->GetName(), u"Set(Integer)");
+  EXPECT_EQ(SetOfInteger->GetAncestor()->GetName(), u"Set");
+  EXPECT_NE(SetOfInteger->GetAncestor(), Globals->Get_Set());
+  EXPECT_EQ(SetOfInteger->GetElementType(), Globals->Get_Integer());
+  EXPECT_NE(Globals->BuildCollection(u"Set", u"Integer"), SetOfInteger);  // nothing cached
+}
