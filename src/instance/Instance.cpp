@@ -1,5 +1,6 @@
 #include "gello/instance/Instance.h"
 
+#include "PropertySlots.h"
 #include "gello/foundation/Exceptions.h"
 #include "gello/instance/CollectionInstance.h"
 #include "gello/instance/DataCells.h"
@@ -47,38 +48,11 @@ String TRTTIClassInstance::ClassName() const {
   return FInstanceType ? FInstanceType->GetName() : String();
 }
 
-Ref<IRTTIProperty> TRTTIClassInstance::PropertyAt(int Position) const {
-  if (!FInstanceType || Position < 0) return nullptr;
-  FInstanceType->GetPropertyIndexAllocation();
-  return FInstanceType->GetProperties(Position);
-}
-
-Ref<IRTTIProperty> TRTTIClassInstance::PropertyNamed(const String& Name) const {
-  if (!FInstanceType) return nullptr;
-  FInstanceType->GetPropertyIndexAllocation();
-  return FInstanceType->Lookup<IRTTIProperty>(Name);
-}
-
-Ref<IRTTIClassInstance> TRTTIClassInstance::Slot(const Ref<IRTTIProperty>& Property) const {
-  if (!Property) return nullptr;
-  auto Index = static_cast<std::size_t>(Property->GetPropertyIndex());
-  return Index < FValues.size() ? FValues[Index] : nullptr;
-}
-
-void TRTTIClassInstance::Store(const Ref<IRTTIProperty>& Property,
-                               const Ref<IRTTIClassInstance>& Value) {
-  if (!Property) return;
-  auto Index = static_cast<std::size_t>(Property->GetPropertyIndex());
-  // The class may have gained properties since this instance was made.
-  if (Index >= FValues.size()) FValues.resize(Index + 1);
-  FValues[Index] = Value;
-}
-
 Ref<IRTTIClassInstance> TRTTIClassInstance::CreateProperty(const String& Name) {
-  Ref<IRTTIProperty> Property = PropertyNamed(Name);
+  Ref<IRTTIProperty> Property = PropertyNamed(FInstanceType.get(), Name);
   if (!Property) return nullptr;
   Ref<IRTTIClassInstance> Value = CreateFromClass(Property->GetPropertyType());
-  Store(Property, Value);
+  StoreSlot(FValues, Property.get(), Value);
   return Value;
 }
 
@@ -87,25 +61,25 @@ int TRTTIClassInstance::GetPropertyCount() const {
 }
 
 String TRTTIClassInstance::GetPropertyName(int Index) const {
-  Ref<IRTTIProperty> Property = PropertyAt(Index);
+  Ref<IRTTIProperty> Property = PropertyAtPosition(FInstanceType.get(), Index);
   return Property ? Property->GetName() : String();
 }
 
 Ref<IRTTIClassInstance> TRTTIClassInstance::GetPropertyValue(int Index) const {
-  return Slot(PropertyAt(Index));
+  return SlotValue(FValues, PropertyAtPosition(FInstanceType.get(), Index).get());
 }
 
 void TRTTIClassInstance::SetPropertyValue(int Index, const Ref<IRTTIClassInstance>& Value) {
-  Store(PropertyAt(Index), Value);
+  StoreSlot(FValues, PropertyAtPosition(FInstanceType.get(), Index).get(), Value);
 }
 
 Ref<IRTTIClassInstance> TRTTIClassInstance::GetPropertyByName(const String& Name) const {
-  return Slot(PropertyNamed(Name));
+  return SlotValue(FValues, PropertyNamed(FInstanceType.get(), Name).get());
 }
 
 void TRTTIClassInstance::SetPropertyByName(const String& Name,
                                            const Ref<IRTTIClassInstance>& Value) {
-  Store(PropertyNamed(Name), Value);
+  StoreSlot(FValues, PropertyNamed(FInstanceType.get(), Name).get(), Value);
 }
 
 TJSON TRTTIClassInstance::ValueJSON(bool) const {
@@ -116,8 +90,8 @@ TJSON TRTTIClassInstance::PropertiesJSON(bool Compact) const {
   TJSON Result = TJSON::object();
   Result["#type"] = ToUTF8(ClassName());
   for (int i = 0; i < GetPropertyCount(); ++i) {
-    Ref<IRTTIProperty> Property = PropertyAt(i);
-    Ref<IRTTIClassInstance> Value = Slot(Property);
+    Ref<IRTTIProperty> Property = PropertyAtPosition(FInstanceType.get(), i);
+    Ref<IRTTIClassInstance> Value = SlotValue(FValues, Property.get());
     if (Value)
       Result[ToUTF8(Property->GetName())] =
           Compact ? Value->GetasCompactJSON() : Value->GetasJSON();

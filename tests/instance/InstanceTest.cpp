@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "../ocl/ExpectMessage.h"
 #include "gello/foundation/Exceptions.h"
 #include "gello/instance/CollectionInstance.h"
 #include "gello/instance/DataCells.h"
@@ -64,12 +65,8 @@ TEST_F(InstanceTest, CreateFromClassChoosesByKind) {
   Flagged->SetClassKind(static_cast<TRTTIClassKind>(9));
   EXPECT_EQ(TRTTIClassInstance::CreateFromClass(Flagged), nullptr);
   auto Undefined = MakeRef<TRTTIClass>(u"Vague");
-  try {
-    TRTTIClassInstance::CreateFromClass(Undefined);
-    ADD_FAILURE() << "no exception";
-  } catch (const Exception& Error) {
-    EXPECT_EQ(Error.Message(), u"Internal error: undefined class kind (Vague)");
-  }
+  ExpectMessage<Exception>([&] { TRTTIClassInstance::CreateFromClass(Undefined); },
+                           u"Internal error: undefined class kind (Vague)");
 }
 
 TEST_F(InstanceTest, PropertiesByNameAndPositionAcrossAncestors) {
@@ -162,25 +159,16 @@ TEST_F(InstanceTest, Collections) {
   List->SetCount(1);
   EXPECT_EQ(List->GetCount(), 1);
   EXPECT_EQ(List->GetasString(), u"(Collection): Bag(Integer)");
-  try {
-    List->SetasString(u"x");
-    ADD_FAILURE() << "no exception";
-  } catch (const Exception& Error) {
-    EXPECT_EQ(Error.Message(),
-              u"RTTI collection instance can't be assigned a string value: Bag(Integer)");
-  }
+  ExpectMessage<Exception>(
+      [&] { List->SetasString(u"x"); },
+      u"RTTI collection instance can't be assigned a string value: Bag(Integer)");
   Bag->Clear();
 }
 
 TEST_F(InstanceTest, StackPopsLastPushedAndGrowsBySixteen) {
   TRTTIInstanceStack Stack;
   EXPECT_TRUE(Stack.empty());
-  try {
-    Stack.pop();
-    ADD_FAILURE() << "no exception";
-  } catch (const Exception& Error) {
-    EXPECT_EQ(Error.Message(), u" trying to pop from empty RTTI instance stack.");
-  }
+  ExpectMessage<Exception>([&] { Stack.pop(); }, u" trying to pop from empty RTTI instance stack.");
   std::vector<Ref<IRTTIClassInstance>> Pushed;
   for (int i = 0; i < 17; ++i) {
     Pushed.push_back(MakeRef<TRTTIClassInstance>(Person));

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ExpectMessage.h"
 #include "SystemClassesFixture.h"
 #include "gello/foundation/Exceptions.h"
 #include "gello/model/Class.h"
@@ -28,16 +29,6 @@ bool IsTrue(const Ref<IOCLBoolean>& B) {
 }
 bool IsFalse(const Ref<IOCLBoolean>& B) {
   return B.get() == TOCLBoolean::BooleanValue(false).get();
-}
-
-template <class E>
-void ExpectMessage(const std::function<void()>& Call, const String& Message) {
-  try {
-    Call();
-    ADD_FAILURE() << "no exception";
-  } catch (const E& Error) {
-    EXPECT_EQ(Error.Message(), Message);
-  }
 }
 
 using AnyTest = SystemClassesTest;

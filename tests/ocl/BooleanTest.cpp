@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ExpectMessage.h"
 #include "SystemClassesFixture.h"
 #include "gello/foundation/Exceptions.h"
 #include "gello/ocl/Integer.h"
@@ -77,12 +78,8 @@ TEST_F(BooleanTest, NilRightOperandGivesTheUndefinedBoolean) {
 
 TEST_F(BooleanTest, AccessorsTextAndEquality) {
   auto Value = MakeRef<TOCLBooleanValue>(rtti_unknown);
-  try {
-    Value->GetasBoolean();
-    ADD_FAILURE() << "no exception";
-  } catch (const EOCLException& Error) {
-    EXPECT_EQ(Error.Message(), u"unable to convert extended boolean \"unknown\" value");
-  }
+  ExpectMessage<EOCLException>([&] { Value->GetasBoolean(); },
+                               u"unable to convert extended boolean \"unknown\" value");
   EXPECT_EQ(Value->GetasString(), u"unknown");
   Value->SetasString(u"TRUE");
   EXPECT_TRUE(Value->GetasBoolean());

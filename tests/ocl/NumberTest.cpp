@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <limits>
+#include "ExpectMessage.h"
 #include "SystemClassesFixture.h"
 #include "gello/foundation/Exceptions.h"
 #include "gello/ocl/Boolean.h"
@@ -102,12 +103,8 @@ TEST_F(NumberTest, ComparisonsAndEquality) {
   EXPECT_FALSE(R(1)->isEqual(TOCLBoolean::BooleanValue(true).get()));
   EXPECT_TRUE(R(1)->_LessThan(I(2).get()));
   EXPECT_FALSE(R(1)->_LessThan(nullptr));
-  try {
-    R(1)->_LessThan(TOCLBoolean::BooleanValue(true).get());
-    ADD_FAILURE() << "no exception";
-  } catch (const EOCLException& Error) {
-    EXPECT_EQ(Error.Message(), u"Data types are incompatible for sorting.");
-  }
+  ExpectMessage<EOCLException>([] { R(1)->_LessThan(TOCLBoolean::BooleanValue(true).get()); },
+                               u"Data types are incompatible for sorting.");
 }
 
 TEST_F(NumberTest, MaxMinKeepTheReceiversKindAndHandleNaN) {

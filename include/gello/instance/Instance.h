@@ -48,10 +48,6 @@ class TRTTIClassInstance : public virtual IRTTIClassInstance {
   const std::vector<Ref<IRTTIClassInstance>>& Values() const { return FValues; }
 
  private:
-  Ref<IRTTIProperty> PropertyAt(int Position) const;
-  Ref<IRTTIProperty> PropertyNamed(const String& Name) const;
-  Ref<IRTTIClassInstance> Slot(const Ref<IRTTIProperty>& Property) const;
-  void Store(const Ref<IRTTIProperty>& Property, const Ref<IRTTIClassInstance>& Value);
   TJSON PropertiesJSON(bool Compact) const;
 
   String FText;
