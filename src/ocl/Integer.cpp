@@ -1,7 +1,6 @@
 #include "gello/ocl/Integer.h"
 
 #include <cmath>
-#include <limits>
 #include "Int64Text.h"
 #include "Ordering.h"
 #include "gello/foundation/Exceptions.h"
@@ -13,7 +12,6 @@ namespace {
 
 using Int64 = std::int64_t;
 using UInt64 = std::uint64_t;
-constexpr Int64 LeastInt64 = std::numeric_limits<Int64>::min();
 
 // Two's-complement arithmetic goes through unsigned values, where wrapping is defined.
 Int64 WrapAdd(Int64 a, Int64 b) {
