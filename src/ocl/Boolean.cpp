@@ -57,6 +57,22 @@ TJSON TOCLBoolean::GetasJSON() const {
   return Result;
 }
 
+void TOCLBoolean::SetasCompactJSON(const TJSON& Value) {
+  if (Value.is_boolean())
+    SetasBoolean(Value.get<bool>());
+  else if (Value.is_object() && Value.value("#value", "") == "unknown")
+    SetasExtendedBoolean(rtti_unknown);
+}
+
+void TOCLBoolean::SetasJSON(const TJSON& Value) {
+  if (!Value.is_object() || !Value.contains(".value")) return;
+  const TJSON& Inner = Value[".value"];
+  if (Inner.is_string() && Inner.get<std::string>() == "unknown")
+    SetasExtendedBoolean(rtti_unknown);
+  else
+    SetasCompactJSON(Inner);
+}
+
 String TOCLBoolean::GetasString() const {
   if (!IsDefined()) return TOCLAny::GetasString();
   return ExtendedBooleanToString(GetasExtendedBoolean());

@@ -99,4 +99,14 @@ TEST_F(BooleanTest, JSONForms) {
   EXPECT_EQ(B(U)->GetasCompactJSON().dump(), R"({"#type":"Boolean","#value":"unknown"})");
   EXPECT_EQ(B(T)->GetasJSON().dump(), R"({"#type":"Boolean",".value":true})");
   EXPECT_EQ(B(U)->GetasJSON().dump(), R"({"#type":"Boolean",".value":"unknown"})");
+  auto Value = MakeRef<TOCLBooleanValue>(false);
+  for (auto Expected : {U, T, F, U}) {
+    Value->SetasCompactJSON(B(Expected)->GetasCompactJSON());
+    EXPECT_EQ(Value->GetasExtendedBoolean(), Expected);
+    Value->SetasJSON(B(Expected == T ? F : T)->GetasJSON());
+    Value->SetasJSON(B(Expected)->GetasJSON());
+    EXPECT_EQ(Value->GetasExtendedBoolean(), Expected);
+  }
+  Value->SetasCompactJSON(TJSON(3));
+  EXPECT_EQ(Value->GetasExtendedBoolean(), U);
 }

@@ -21,6 +21,9 @@ class TOCLBoolean : public TOCLAny, public virtual IOCLBoolean {
 
   TJSON GetasCompactJSON() const override;
   TJSON GetasJSON() const override;
+  /// Reads back what GetasCompactJSON and GetasJSON write; other JSON leaves the value as it is.
+  void SetasCompactJSON(const TJSON& Value) override;
+  void SetasJSON(const TJSON& Value) override;
   String GetasString() const override;
   void SetasString(const String& Value) override;
   Ref<IRTTIClass> GetInstanceType() const override;
