@@ -1,8 +1,26 @@
 #include "gello/model/Element.h"
 
+#include <atomic>
+
 #include "gello/foundation/Exceptions.h"
 
 namespace gello {
+namespace {
+std::atomic<std::uint64_t> Epoch{0};
+
+// The id made from a GUID: "{XXXXXXXX-XXXX-...}" becomes "QX_XXXXXXXX_XXXX_...".
+String UMLIdOf(const GUID& Id) {
+  String Text = Id.ToString();
+  Text = Text.substr(1, Text.size() - 2);
+  for (char16_t& C : Text)
+    if (C == u'-') C = u'_';
+  return u"QX_" + Text;
+}
+}  // namespace
+
+std::uint64_t UMLIdEpoch() {
+  return Epoch.load();
+}
 
 TRTTIElement::TRTTIElement(const String& Name) : FName(Name) {}
 
@@ -18,20 +36,26 @@ void TRTTIElement::SetName(const String& Value) {
 }
 
 GUID TRTTIElement::GetGUID() {
-  if (IsNullGUID(FGUID)) FGUID = GUID::Create();
+  if (IsNullGUID(FGUID)) {
+    FGUID = GUID::Create();
+    ++Epoch;
+  }
   return FGUID;
 }
 
 String TRTTIElement::GetUML_ID() {
-  if (FUML_ID.empty()) {
-    // "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}" becomes "QX_XXXXXXXX_XXXX_XXXX_XXXX_XXXXXXXXXXXX".
-    String Text = GetGUID().ToString();
-    Text = Text.substr(1, Text.size() - 2);
-    for (char16_t& C : Text)
-      if (C == u'-') C = u'_';
-    FUML_ID = u"QX_" + Text;
-  }
+  if (FUML_ID.empty()) FUML_ID = UMLIdOf(GetGUID());
   return FUML_ID;
+}
+
+void TRTTIElement::SetUML_ID(const String& Value) {
+  FUML_ID = Value;
+  ++Epoch;
+}
+
+String TRTTIElement::PeekUML_ID() const {
+  if (!FUML_ID.empty() || IsNullGUID(FGUID)) return FUML_ID;
+  return UMLIdOf(FGUID);
 }
 
 void TRTTIElement::Resolve(IRTTIScope*) {

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "gello/foundation/Exceptions.h"
+#include "gello/model/Element.h"
 
 namespace gello {
 
@@ -12,39 +13,66 @@ TRTTIElementList::TRTTIElementList(std::initializer_list<Ref<IRTTIElement>> Elem
     Add(Element);
 }
 
-TRTTIElementList::TItem TRTTIElementList::MakeItem(const Ref<IRTTIElement>& Element) const {
-  GELLO_ASSERT(Element, u"Adding null element to list");
-  return TItem{Element, Element->GetName()};
-}
-
 void TRTTIElementList::CheckIndex(int Index, int Limit) const {
   if (Index < 0 || Index >= Limit)
     throw Exception(u"List index out of bounds (" + IntToStr(Index) + u")");
 }
 
-void TRTTIElementList::IndexAdd(const TItem& Item) {
-  FNameIndex[Item.IndexedName].push_back(Item.Element.get());
-  ++FHeld[Item.Element.get()];
+IRTTIElement* TRTTIElementList::Newest(const String& Key) const {
+  return Key.empty() ? FUnnamed : FNames.Find(Key);
+}
+
+void TRTTIElementList::SetNewest(const String& Key, IRTTIElement* Element) {
+  if (Key.empty())
+    FUnnamed = Element;
+  else if (Element)
+    FNames.Put(Element);
+  else
+    FNames.Erase(Key);
+}
+
+void TRTTIElementList::IndexAdd(TItem& Item) {
+  GELLO_ASSERT(Item.Element, u"Adding null element to list");
+  ForgetUMLIds();
+  IRTTIElement* Element = Item.Element.get();
+  const String Key = Element->GetName();
+  Item.Unnamed = Key.empty();
+  if (IRTTIElement* Earlier = Newest(Key)) FOlder[Key].push_back(Earlier);
+  SetNewest(Key, Element);
+  ++FHeld[Element];
 }
 
 void TRTTIElementList::IndexRemove(const TItem& Item) {
-  auto Names = FNameIndex.find(Item.IndexedName);
-  std::vector<IRTTIElement*>& Same = Names->second;
-  Same.erase(std::find(Same.rbegin(), Same.rend(), Item.Element.get()).base() - 1);
-  if (Same.empty()) FNameIndex.erase(Names);
-  auto Held = FHeld.find(Item.Element.get());
+  ForgetUMLIds();
+  IRTTIElement* Element = Item.Element.get();
+  auto Held = FHeld.find(Element);
   if (--Held->second == 0) FHeld.erase(Held);
+  const String Key = Item.Unnamed ? String() : Element->GetName();
+  auto Older = FOlder.find(Key);
+  if (Older == FOlder.end()) {
+    SetNewest(Key, nullptr);  // the last of its name
+    return;
+  }
+  std::vector<IRTTIElement*>& Earlier = Older->second;
+  if (Newest(Key) == Element) {
+    SetNewest(Key, Earlier.back());
+    Earlier.pop_back();
+  } else {
+    Earlier.erase(std::find(Earlier.rbegin(), Earlier.rend(), Element).base() - 1);
+  }
+  if (Earlier.empty()) FOlder.erase(Older);
 }
 
 int TRTTIElementList::Add(const Ref<IRTTIElement>& Element) {
-  FItems.push_back(MakeItem(Element));
-  IndexAdd(FItems.back());
+  TItem Item{Element, false};
+  IndexAdd(Item);
+  FItems.push_back(std::move(Item));
   return GetCount() - 1;
 }
 
 void TRTTIElementList::Insert(int Index, const Ref<IRTTIElement>& Element) {
   CheckIndex(Index, GetCount() + 1);
-  TItem Item = MakeItem(Element);
+  TItem Item{Element, false};
   IndexAdd(Item);
   FItems.insert(FItems.begin() + Index, std::move(Item));
 }
@@ -57,7 +85,10 @@ void TRTTIElementList::Delete(int Index) {
 
 void TRTTIElementList::Clear() {
   FItems.clear();
-  FNameIndex.clear();
+  ForgetUMLIds();
+  FNames.Clear();
+  FUnnamed = nullptr;
+  FOlder.clear();
   FHeld.clear();
 }
 
@@ -94,15 +125,14 @@ Ref<IRTTIElement> TRTTIElementList::GetItems(int Index) const {
 
 void TRTTIElementList::SetItems(int Index, const Ref<IRTTIElement>& Element) {
   CheckIndex(Index, GetCount());
-  TItem Item = MakeItem(Element);
-  IndexRemove(FItems[Index]);
+  TItem Item{Element, false};
   IndexAdd(Item);
+  IndexRemove(FItems[Index]);
   FItems[Index] = std::move(Item);
 }
 
 Ref<IRTTIElement> TRTTIElementList::GetItemByName(const String& Name) const {
-  auto Found = FNameIndex.find(Name);
-  return Found == FNameIndex.end() ? nullptr : Ref<IRTTIElement>(Found->second.back());
+  return Ref<IRTTIElement>(Newest(Name));
 }
 
 void TRTTIElementList::SetItemByName(const String& Name, const Ref<IRTTIElement>& Element) {
@@ -114,29 +144,43 @@ void TRTTIElementList::SetItemByName(const String& Name, const Ref<IRTTIElement>
 }
 
 Ref<IRTTIElement> TRTTIElementList::GetItemByUMLID(const String& Id) const {
-  for (const TItem& Item : FItems)
-    if (Item.Element->GetUML_ID() == Id) return Item.Element;
-  return nullptr;
+  if (!FUMLValid || FUMLEpoch != UMLIdEpoch()) {
+    FByUMLId.clear();
+    for (const TItem& Item : FItems) {
+      String Own = Item.Element->PeekUML_ID();
+      if (!Own.empty()) FByUMLId.try_emplace(std::move(Own), Item.Element.get());
+    }
+    FUMLEpoch = UMLIdEpoch();
+    FUMLValid = true;
+  }
+  auto Found = FByUMLId.find(Id);
+  return Found == FByUMLId.end() ? nullptr : Ref<IRTTIElement>(Found->second);
 }
 
 Ref<IRTTIElementList> TRTTIElementList::ItemsByName(const String& Name) const {
   auto Result = MakeRef<TRTTIElementList>();
-  auto Found = FNameIndex.find(Name);
-  if (Found != FNameIndex.end())
-    for (IRTTIElement* Element : Found->second)
+  IRTTIElement* Last = Newest(Name);
+  if (!Last) return Result;
+  if (auto Older = FOlder.find(Name); Older != FOlder.end())
+    for (IRTTIElement* Element : Older->second)
       Result->Add(Ref<IRTTIElement>(Element));
+  Result->Add(Ref<IRTTIElement>(Last));
   return Result;
 }
 
 Ref<IRTTIElementList> TRTTIElementList::GetSortedItems() const {
   // The index order: by name, and among equal names the last added first.
-  std::map<String, const std::vector<IRTTIElement*>*> Sorted;
-  for (const auto& [Name, Same] : FNameIndex)
-    Sorted.emplace(Name, &Same);
+  std::map<String, IRTTIElement*> Sorted;
+  for (IRTTIElement* Element : FNames.Elements())
+    Sorted.emplace(Element->GetName(), Element);
+  if (FUnnamed) Sorted.emplace(String(), FUnnamed);
   auto Result = MakeRef<TRTTIElementList>();
-  for (const auto& Entry : Sorted)
-    for (auto It = Entry.second->rbegin(); It != Entry.second->rend(); ++It)
-      Result->Add(Ref<IRTTIElement>(*It));
+  for (const auto& [Name, Last] : Sorted) {
+    Result->Add(Ref<IRTTIElement>(Last));
+    if (auto Older = FOlder.find(Name); Older != FOlder.end())
+      for (auto It = Older->second.rbegin(); It != Older->second.rend(); ++It)
+        Result->Add(Ref<IRTTIElement>(*It));
+  }
   return Result;
 }
 
@@ -170,6 +214,7 @@ void TRTTIElementList::Swap(int I, int J) {
   CheckIndex(I, GetCount());
   CheckIndex(J, GetCount());
   std::swap(FItems[I], FItems[J]);
+  ForgetUMLIds();  // the first holder of an id may have moved
 }
 
 void TRTTIElementList::Reset() {

@@ -7,13 +7,15 @@
 namespace gello {
 
 TRTTIScope::TRTTIScope(const String& Name, bool OwnsMembers)
-    : TRTTIElement(Name),
-      FMembers(MakeRef<TRTTIElementList>()),
-      FStatements(MakeRef<TRTTIElementList>()),
-      FOwnsMembers(OwnsMembers) {}
+    : TRTTIElement(Name), FMembers(MakeRef<TRTTIElementList>()), FOwnsMembers(OwnsMembers) {}
 
 TRTTIScope::~TRTTIScope() {
   TRTTIScope::Clear();
+}
+
+Ref<IRTTIElementList> TRTTIScope::GetStatements() const {
+  if (!FStatements) FStatements = MakeRef<TRTTIElementList>();
+  return FStatements;
 }
 
 bool TRTTIScope::AddMember(const Ref<IRTTIElement>& Element) {
@@ -90,7 +92,7 @@ void TRTTIScope::Clear() {
     if (FStatements) FStatements->Reset();
   } else {
     FMembers = MakeRef<TRTTIElementList>();
-    FStatements = MakeRef<TRTTIElementList>();
+    FStatements = nullptr;
   }
   TRTTIElement::Clear();
 }

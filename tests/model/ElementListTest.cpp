@@ -76,6 +76,29 @@ TEST(ElementList, IndexAgreesWithTheListAfterChanges) {
   EXPECT_EQ(List->GetCount(), 0);
 }
 
+TEST(ElementList, DeletingAnyOfEqualNamesKeepsTheOthersInOrder) {
+  auto List = MakeRef<TRTTIElementList>();
+  Ref<IRTTIElement> X1 = Named(u"x"), X2 = Named(u"x"), X3 = Named(u"x");
+  List->Add(X1);
+  List->Add(X2);
+  List->Add(X3);
+  List->Delete(1);
+  EXPECT_EQ(List->GetItemByName(u"x"), X3);
+  Ref<IRTTIElementList> Same = List->ItemsByName(u"x");
+  ASSERT_EQ(Same->GetCount(), 2);
+  EXPECT_EQ(Same->GetItems(0), X1);
+  List->Delete(1);
+  EXPECT_EQ(List->GetItemByName(u"x"), X1);
+  List->Add(X1);  // the same element twice: removing one copy keeps the other findable
+  List->Delete(0);
+  EXPECT_EQ(List->GetItemByName(u"x"), X1);
+  EXPECT_TRUE(List->Exists(X1.get()));
+  List->Delete(0);
+  EXPECT_FALSE(List->GetItemByName(u"x"));
+  EXPECT_FALSE(List->Exists(X1.get()));
+  EXPECT_EQ(List->ItemsByName(u"x")->GetCount(), 0);
+}
+
 TEST(ElementList, RenameDoesNotMoveTheIndexEntry) {
   auto List = MakeRef<TRTTIElementList>();
   auto Unnamed = MakeRef<TRTTIElement>();
@@ -143,7 +166,7 @@ TEST(ElementList, SortedItemsFollowTheIndexOrder) {
   EXPECT_EQ(Sorted->GetItems(2), B1);
 }
 
-TEST(ElementList, UMLIdLookupGivesIdsToWhatItPasses) {
+TEST(ElementList, UMLIdLookupFollowsIdsAndOrder) {
   auto List = MakeRef<TRTTIElementList>();
   Ref<IRTTIElement> A = Named(u"a"), B = Named(u"b"), C = Named(u"c");
   List->Add(A);
@@ -152,7 +175,23 @@ TEST(ElementList, UMLIdLookupGivesIdsToWhatItPasses) {
   B->SetUML_ID(u"id-b");
   EXPECT_EQ(List->GetItemByUMLID(u"id-b"), B);
   EXPECT_FALSE(List->GetItemByUMLID(u"ID-B"));
-  EXPECT_EQ(List->GetItemByUMLID(C->GetUML_ID()), C);
+  // Ids made or changed after a lookup are seen by the next one.
+  const GUID Id = C->GetGUID();  // the UML id follows from the GUID
+  String Expected = u"QX_" + Id.ToString().substr(1, 36);
+  for (char16_t& Ch : Expected)
+    if (Ch == u'-') Ch = u'_';
+  EXPECT_EQ(List->GetItemByUMLID(Expected), C);
+  B->SetUML_ID(u"id-b2");
+  EXPECT_FALSE(List->GetItemByUMLID(u"id-b"));
+  EXPECT_EQ(List->GetItemByUMLID(u"id-b2"), B);
+  // The first holder of an id in list order wins, also after moves and deletes.
+  A->SetUML_ID(u"id-b2");
+  EXPECT_EQ(List->GetItemByUMLID(u"id-b2"), A);
+  List->Swap(0, 1);
+  EXPECT_EQ(List->GetItemByUMLID(u"id-b2"), B);
+  List->Delete(0);
+  EXPECT_EQ(List->GetItemByUMLID(u"id-b2"), A);
+  EXPECT_EQ(C->GetUML_ID(), Expected);
 }
 
 TEST(ElementList, ResetClearsEveryElementAndMergeFlagIsKept) {

@@ -44,24 +44,6 @@ TEST(Element, GUIDAndUMLIdAreMadeOnceAndKept) {
   EXPECT_EQ(E->GetUML_ID(), u"from-xmi");
 }
 
-TEST(Element, KindIsTheClassNameWithoutPrefix) {
-  EXPECT_EQ(MakeRef<TRTTIElement>()->GetKind(), u"Element");
-  auto C = MakeRef<TRTTIClass>(u"C");
-  EXPECT_EQ(C->GetKind(), u"Class");
-  EXPECT_EQ(C->ExternalTypeName(), u"Class");
-  EXPECT_EQ(MakeRef<TRTTIProperty>(u"p", C)->GetKind(), u"Property");
-  C->Clear();
-}
-
-TEST(Element, BaseAnswersOfTypeQuestions) {
-  auto E = MakeRef<TRTTIElement>(u"e");
-  auto C = MakeRef<TRTTIClass>(u"C");
-  EXPECT_FALSE(E->Compatible(C.get()));
-  EXPECT_FALSE(E->GetResolved());
-  E->Resolve(nullptr);
-  EXPECT_TRUE(E->GetResolved());
-}
-
 TEST(ValidGelloName, SanitisesCharactersPrefixesAndKeywords) {
   EXPECT_EQ(ValidGelloName(u"my-name"), u"my_name");
   EXPECT_EQ(ValidGelloName(u"_x"), u"C_x");

@@ -19,44 +19,40 @@ TEST_F(GlobalsTest, SystemHoldsTheBuiltInsInOrder) {
   Ref<IRTTIPackage> System = Globals->Get_System();
   ASSERT_EQ(Globals->GetMembers()->GetItems(0), Ref<IRTTIElement>(System));
   Ref<IRTTIElementList> Members = System->GetMembers();
-  const char16_t* const Expected[][3] = {{u"T", u"", u"Generic"},
-                                         {u"_Undefined_", u"OCLUndefined", u"Class"},
-                                         {u"_Untyped_", u"OCLUndefined", u"Class"},
-                                         {u"Any", u"OCLAny", u"Class"},
-                                         {u"Real", u"OCLReal", u"Class"},
-                                         {u"String", u"OCLString", u"Class"},
-                                         {u"Boolean", u"OCLBoolean", u"Class"},
-                                         {u"Integer", u"OCLInteger", u"Class"},
-                                         {u"Collection(T)", u"OCLCollection", u"Class"},
-                                         {u"Set(T)", u"OCLSet", u"Class"},
-                                         {u"Bag(T)", u"OCLBag", u"Class"},
-                                         {u"Sequence(T)", u"OCLSequence", u"Class"},
-                                         {u"Tuple", u"OCLTuple", u"Class"}};
+  struct TBuiltIn {
+    const char16_t* Name;
+    const char16_t* Host;
+    const char16_t* Kind;
+    TRTTIClassKind ClassKind;
+  };
+  const TBuiltIn Expected[] = {{u"T", u"", u"Generic", rtti_undefined},
+                               {u"_Undefined_", u"OCLUndefined", u"Class", rtti_undefined},
+                               {u"_Untyped_", u"OCLUndefined", u"Class", rtti_undefined},
+                               {u"Any", u"OCLAny", u"Class", rtti_class},
+                               {u"Real", u"OCLReal", u"Class", rtti_real},
+                               {u"String", u"OCLString", u"Class", rtti_string},
+                               {u"Boolean", u"OCLBoolean", u"Class", rtti_boolean},
+                               {u"Integer", u"OCLInteger", u"Class", rtti_integer},
+                               {u"Collection(T)", u"OCLCollection", u"Class", rtti_class},
+                               {u"Set(T)", u"OCLSet", u"Class", rtti_set},
+                               {u"Bag(T)", u"OCLBag", u"Class", rtti_bag},
+                               {u"Sequence(T)", u"OCLSequence", u"Class", rtti_sequence},
+                               {u"Tuple", u"OCLTuple", u"Class", rtti_class}};
   ASSERT_EQ(Members->GetCount(), 13);
   for (int i = 0; i < 13; ++i) {
     auto C = DynCast<IRTTIClass>(Members->GetItems(i));
     ASSERT_TRUE(C);
-    EXPECT_EQ(C->GetName(), Expected[i][0]);
-    EXPECT_EQ(C->GetHostClassName(), Expected[i][1]);
-    EXPECT_EQ(C->GetKind(), Expected[i][2]);
+    EXPECT_EQ(C->GetName(), Expected[i].Name);
+    EXPECT_EQ(C->GetHostClassName(), Expected[i].Host);
+    EXPECT_EQ(C->GetKind(), Expected[i].Kind);
+    EXPECT_EQ(C->GetClassKind(), Expected[i].ClassKind) << ToUTF8(Expected[i].Name);
   }
   EXPECT_TRUE(Globals->Get_T()->IsGeneric());
   EXPECT_EQ(Globals->Get_Untyped()->GetName(), u"_Untyped_");
   EXPECT_EQ(Globals->Get_Undefined()->GetName(), u"_Undefined_");
 }
 
-TEST_F(GlobalsTest, KindsAncestorsAndElementTypes) {
-  EXPECT_EQ(Globals->Get_T()->GetClassKind(), rtti_undefined);
-  EXPECT_EQ(Globals->Get_Any()->GetClassKind(), rtti_class);
-  EXPECT_EQ(Globals->Get_Real()->GetClassKind(), rtti_real);
-  EXPECT_EQ(Globals->Get_String()->GetClassKind(), rtti_string);
-  EXPECT_EQ(Globals->Get_Boolean()->GetClassKind(), rtti_boolean);
-  EXPECT_EQ(Globals->Get_Integer()->GetClassKind(), rtti_integer);
-  EXPECT_EQ(Globals->Get_Collection()->GetClassKind(), rtti_class);
-  EXPECT_EQ(Globals->Get_Set()->GetClassKind(), rtti_set);
-  EXPECT_EQ(Globals->Get_Bag()->GetClassKind(), rtti_bag);
-  EXPECT_EQ(Globals->Get_Sequence()->GetClassKind(), rtti_sequence);
-  EXPECT_EQ(Globals->Get_Tuple()->GetClassKind(), rtti_class);
+TEST_F(GlobalsTest, AncestorsAndElementTypes) {
   EXPECT_TRUE(Globals->Get_Tuple()->GetIsTuple());
   EXPECT_EQ(Globals->Get_Set()->GetAncestor(), Globals->Get_Collection());
   EXPECT_EQ(Globals->Get_Set()->GetElementType(), Globals->Get_T());

@@ -99,14 +99,3 @@ TEST_F(ScopeTest, ClearHonoursOwnership) {
   EXPECT_EQ(Scope->GetMembers()->GetCount(), 0);
   EXPECT_FALSE(Owned->GetPropertyType());  // the owner cleared it
 }
-
-TEST_F(ScopeTest, ResolveResolvesMembersAndSortAllSorts) {
-  auto B = MakeRef<TRTTIElement>(u"b"), A = MakeRef<TRTTIElement>(u"a");
-  Scope->AddMember(B);
-  Scope->AddMember(A);
-  Scope->Resolve(Scope.get());
-  EXPECT_TRUE(A->GetResolved());
-  EXPECT_TRUE(Scope->GetResolved());
-  Scope->SortAll();
-  EXPECT_EQ(Scope->GetMembers()->GetItems(0), Ref<IRTTIElement>(A));
-}

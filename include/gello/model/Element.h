@@ -1,5 +1,7 @@
 #pragma once
 // The element base class: identity, write-once naming, identifiers and default type answers.
+#include <cstdint>
+
 #include "gello/model/Interfaces.h"
 
 namespace gello {
@@ -25,7 +27,8 @@ class TRTTIElement : public virtual IRTTIElement {
   String ExternalTypeName() const override { return GetKind(); }
   GUID GetGUID() override;
   String GetUML_ID() override;
-  void SetUML_ID(const String& Value) override { FUML_ID = Value; }
+  void SetUML_ID(const String& Value) override;
+  String PeekUML_ID() const override;
   void Resolve(IRTTIScope* Scope) override;
   bool Compatible(IRTTIClass* Other) override;
   bool Derives(IRTTIClass* Other, IRTTIElementList& Path) override;
@@ -41,6 +44,9 @@ class TRTTIElement : public virtual IRTTIElement {
   bool FResolved = false;
   String FUML_ID;
 };
+
+/// Changes whenever an element gets a GUID or a UML id is set, so caches of ids know to refresh.
+std::uint64_t UMLIdEpoch();
 
 /// The class that Class's name denotes as seen from Scope; Class itself when Scope knows none.
 Ref<IRTTIClass> ResolveClass(const Ref<IRTTIClass>& Class, IRTTIScope* Scope);

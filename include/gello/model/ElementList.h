@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "gello/model/Interfaces.h"
+#include "gello/model/NameTable.h"
 
 namespace gello {
 
@@ -41,18 +42,31 @@ class TRTTIElementList : public virtual IRTTIElementList {
  private:
   struct TItem {
     Ref<IRTTIElement> Element;
-    String IndexedName;  // the name at the time of adding; a later rename does not move it
+    // Added without a name: indexed under "" even after it was named later. Names are
+    // write-once, so any other element keeps the name it was indexed under.
+    bool Unnamed;
   };
   void CheckIndex(int Index, int Limit) const;
-  void IndexAdd(const TItem& Item);
+  void IndexAdd(TItem& Item);
   void IndexRemove(const TItem& Item);
-  TItem MakeItem(const Ref<IRTTIElement>& Element) const;
+  IRTTIElement* Newest(const String& Key) const;
+  void SetNewest(const String& Key, IRTTIElement* Element);
   void QuickSort(int L, int R);
 
   std::vector<TItem> FItems;
   bool FMergeElements = false;
-  // Name to the elements of that name, oldest first; the back one answers a lookup.
-  std::unordered_map<String, std::vector<IRTTIElement*>> FNameIndex;
+  // The newest element of each name answers lookups: named ones in a compact table, the
+  // newest unnamed one beside it.
+  TNameTable FNames;
+  IRTTIElement* FUnnamed = nullptr;
+  // For names held more than once: the earlier elements, oldest first.
+  std::unordered_map<String, std::vector<IRTTIElement*>> FOlder;
+  // UML id to the first element that has it, made on demand; an element without any id would
+  // get a fresh random one, which no given id can equal, so it need not be given one here.
+  void ForgetUMLIds() { FUMLValid = false; }
+  mutable std::unordered_map<String, IRTTIElement*> FByUMLId;
+  mutable std::uint64_t FUMLEpoch = 0;
+  mutable bool FUMLValid = false;
   // How often each element is held, so that Exists and Include need not scan.
   std::unordered_map<IRTTIElement*, int> FHeld;
 };

@@ -55,6 +55,8 @@ struct IRTTIElement : virtual RefCounted {
   virtual GUID GetGUID() = 0;
   virtual String GetUML_ID() = 0;
   virtual void SetUML_ID(const String& Value) = 0;
+  /// The UML id without making one: empty while the element has neither a UML id nor a GUID.
+  virtual String PeekUML_ID() const = 0;
   virtual void Resolve(IRTTIScope* Scope) = 0;
   virtual bool Compatible(IRTTIClass* Other) = 0;
   virtual bool Derives(IRTTIClass* Other, IRTTIElementList& Path) = 0;

@@ -15,7 +15,8 @@ class TRTTIScope : public TRTTIElement, public virtual IRTTIScope {
   String GetKind() const override { return String(KindName); }
   Ref<IRTTIElementList> GetMembers() const override { return FMembers; }
   void SetMembers(const Ref<IRTTIElementList>& Value) override { FMembers = Value; }
-  Ref<IRTTIElementList> GetStatements() const override { return FStatements; }
+  /// Made on first request: most scopes (classes) never hold statements.
+  Ref<IRTTIElementList> GetStatements() const override;
   void SetStatements(const Ref<IRTTIElementList>& Value) override { FStatements = Value; }
   bool GetOwnsMembers() const override { return FOwnsMembers; }
   void SetOwnsMembers(bool Value) override { FOwnsMembers = Value; }
@@ -36,7 +37,7 @@ class TRTTIScope : public TRTTIElement, public virtual IRTTIScope {
 
  private:
   Ref<IRTTIElementList> FMembers;
-  Ref<IRTTIElementList> FStatements;
+  mutable Ref<IRTTIElementList> FStatements;
   bool FOwnsMembers;
 };
 
