@@ -1,0 +1,37 @@
+#include "gello/foundation/Exceptions.h"
+#include "gello/ocl/Any.h"
+#include "gello/ocl/Boolean.h"
+#include "gello/ocl/Integer.h"
+#include "gello/ocl/Null.h"
+#include "gello/ocl/StringMaker.h"
+#include "gello/ocl/Tuple.h"
+
+namespace gello {
+
+Ref<IOCLAny> TOCLAny::CreateFromClass(const Ref<IRTTIClass>& AClass) {
+  if (!AClass)
+    throw EOCLException(u"Internal Error: Gello Class is nil - has OCL Registry been initialized?");
+  switch (AClass->GetClassKind()) {
+    case rtti_undefined:
+      throw EOCLException(u"Internal error: undefined class kind (" + AClass->GetName() + u")");
+    case rtti_class:
+      return MakeRef<TOCLTuple>(AClass);
+    case rtti_bag:
+    case rtti_sequence:
+    case rtti_set:
+      // The collection value classes are not part of this library yet.
+      throw EOCLException(u"Internal OCL error: no collection value class for " +
+                          AClass->GetName());
+    case rtti_string:
+      return MakeOCLString(String());
+    case rtti_integer:
+      return MakeRef<TOCLInteger>(AClass);
+    case rtti_real:
+      return MakeRef<TOCLReal>(AClass);
+    case rtti_boolean:
+      return MakeRef<TOCLBooleanValue>(AClass);
+  }
+  return MakeRef<TOCLNull>(AClass);
+}
+
+}  // namespace gello

@@ -1,0 +1,62 @@
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
+#include <vector>
+#include "gello/ocl/Boolean.h"
+#include "gello/ocl/Integer.h"
+
+using namespace gello;
+
+namespace {
+
+constexpr int Threads = 4;
+constexpr int Rounds = 20000;
+
+// Runs Body on several threads at once and returns the number of wrong answers they saw.
+template <class Fn>
+int RunTogether(Fn Body) {
+  std::atomic<int> Ready{0}, Wrong{0};
+  std::vector<std::thread> Workers;
+  for (int t = 0; t < Threads; ++t)
+    Workers.emplace_back([&] {
+      Ready.fetch_add(1);
+      while (Ready.load() < Threads) {
+      }
+      for (int i = 0; i < Rounds; ++i)
+        if (!Body(i)) Wrong.fetch_add(1);
+    });
+  for (std::thread& Worker : Workers)
+    Worker.join();
+  return Wrong.load();
+}
+
+}  // namespace
+
+TEST(ThreadTest, SharedBooleansAreCountedAndReadFromManyThreads) {
+  Ref<IOCLBoolean> True = TOCLBoolean::BooleanValue(true);
+  IOCLBoolean* Unknown = TOCLBoolean::BooleanValue(rtti_unknown).get();
+  IOCLBoolean* False = TOCLBoolean::BooleanValue(false).get();
+  const int CountBefore = True->GetRefCount();
+  int Wrong = RunTogether([&](int i) {
+    Ref<IOCLBoolean> Held = True;  // a reference taken and dropped on every round
+    Ref<IOCLBoolean> And = Held->_AND_(i % 2 ? Unknown : False);
+    Ref<IOCLBoolean> Back = And->_NOT_()->_OR_(Held.get());
+    return And.get() == (i % 2 ? Unknown : False) && Back.get() == True.get() &&
+           Held->_EQ_(Held.get()).get() == True.get();
+  });
+  EXPECT_EQ(Wrong, 0);
+  EXPECT_EQ(True->GetRefCount(), CountBefore);
+}
+
+TEST(ThreadTest, ASharedNumberServesOperationsFromManyThreads) {
+  Ref<IOCLInteger> Two = MakeRef<TOCLInteger>(2);
+  int Wrong = RunTogether([&](int i) {
+    auto Mine = MakeRef<TOCLInteger>(i);
+    Ref<IOCLInteger> Sum = Mine->_ADD_(Two.get());
+    Ref<IOCLInteger> Product = Two->_MULTIPLY_(Mine.get());
+    return Sum->GetasInt64() == i + 2 && Product->GetasInt64() == 2 * i;
+  });
+  EXPECT_EQ(Wrong, 0);
+  EXPECT_EQ(Two->GetRefCount(), 1);
+}
