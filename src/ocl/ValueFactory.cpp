@@ -3,10 +3,24 @@
 #include "gello/ocl/Boolean.h"
 #include "gello/ocl/Integer.h"
 #include "gello/ocl/Null.h"
-#include "gello/ocl/StringMaker.h"
+#include "gello/ocl/StringDescendant.h"
+#include "gello/ocl/SystemClasses.h"
 #include "gello/ocl/Tuple.h"
 
 namespace gello {
+
+namespace {
+
+// A class that extends the built-in String with properties of its own keeps them in a tuple.
+Ref<IOCLAny> MakeStringOfClass(const Ref<IRTTIClass>& AClass) {
+  const Ref<IRTTIClass>& Builtin = OCLSystemClasses().String;
+  if (Builtin && AClass != Builtin && AClass->IsClass(Builtin.get()) &&
+      AClass->GetPropertyCount() > 0)
+    return MakeRef<TOCLStringDescendant>(AClass);
+  return MakeRef<TOCLString>(AClass);
+}
+
+}  // namespace
 
 Ref<IOCLAny> TOCLAny::CreateFromClass(const Ref<IRTTIClass>& AClass) {
   if (!AClass)
@@ -23,7 +37,7 @@ Ref<IOCLAny> TOCLAny::CreateFromClass(const Ref<IRTTIClass>& AClass) {
       throw EOCLException(u"Internal OCL error: no collection value class for " +
                           AClass->GetName());
     case rtti_string:
-      return MakeOCLString(String());
+      return MakeStringOfClass(AClass);
     case rtti_integer:
       return MakeRef<TOCLInteger>(AClass);
     case rtti_real:
