@@ -1,8 +1,11 @@
 #include "gello/foundation/Exceptions.h"
 #include "gello/ocl/Any.h"
+#include "gello/ocl/Bag.h"
 #include "gello/ocl/Boolean.h"
 #include "gello/ocl/Integer.h"
 #include "gello/ocl/Null.h"
+#include "gello/ocl/Sequence.h"
+#include "gello/ocl/Set.h"
 #include "gello/ocl/StringDescendant.h"
 #include "gello/ocl/SystemClasses.h"
 #include "gello/ocl/Tuple.h"
@@ -31,11 +34,11 @@ Ref<IOCLAny> TOCLAny::CreateFromClass(const Ref<IRTTIClass>& AClass) {
     case rtti_class:
       return MakeRef<TOCLTuple>(AClass);
     case rtti_bag:
+      return MakeRef<TOCLBag>(AClass);
     case rtti_sequence:
+      return MakeRef<TOCLSequence>(AClass);
     case rtti_set:
-      // The collection value classes are not part of this library yet.
-      throw EOCLException(u"Internal OCL error: no collection value class for " +
-                          AClass->GetName());
+      return MakeRef<TOCLSet>(AClass);
     case rtti_string:
       return MakeStringOfClass(AClass);
     case rtti_integer:
