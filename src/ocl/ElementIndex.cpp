@@ -1,6 +1,7 @@
 #include "gello/ocl/ElementIndex.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <functional>
@@ -65,15 +66,23 @@ bool ElementKey(IOCLAny* Element, std::size_t& Key) {
 }
 
 // Every key an element equal to Value could carry: one per value interface Value supports.
-std::vector<std::size_t> QueryKeys(IOCLAny* Value) {
-  std::vector<std::size_t> Keys;
-  if (auto* Number = dynamic_cast<IOCLReal*>(Value)) Keys.push_back(NumberKey(Number));
-  if (auto* Text = dynamic_cast<IOCLString*>(Value)) Keys.push_back(TextKey(Text));
-  if (auto* Truth = dynamic_cast<IOCLBoolean*>(Value)) Keys.push_back(BooleanKey(Truth));
-  if (auto* Type = dynamic_cast<IOCLT*>(Value)) Keys.push_back(TypeKey(Type));
-  std::sort(Keys.begin(), Keys.end());
-  Keys.erase(std::unique(Keys.begin(), Keys.end()), Keys.end());
-  return Keys;
+struct TQueryKeys {
+  std::array<std::size_t, 4> Keys{};
+  std::size_t Count = 0;
+  void Add(std::size_t Key) {
+    // Keys of different kinds that collide are visited once, so nothing is counted twice.
+    if (std::find(Keys.begin(), Keys.begin() + Count, Key) == Keys.begin() + Count)
+      Keys[Count++] = Key;
+  }
+};
+
+TQueryKeys QueryKeys(IOCLAny* Value) {
+  TQueryKeys Result;
+  if (auto* Number = dynamic_cast<IOCLReal*>(Value)) Result.Add(NumberKey(Number));
+  if (auto* Text = dynamic_cast<IOCLString*>(Value)) Result.Add(TextKey(Text));
+  if (auto* Truth = dynamic_cast<IOCLBoolean*>(Value)) Result.Add(BooleanKey(Truth));
+  if (auto* Type = dynamic_cast<IOCLT*>(Value)) Result.Add(TypeKey(Type));
+  return Result;
 }
 
 // Calls Visit with each position whose element equals Value until Visit answers true.
@@ -85,8 +94,9 @@ void ForEachMatch(const std::unordered_multimap<std::size_t, int>& Hashed,
     return Items[static_cast<std::size_t>(Position)]->isEqual(Value);
   };
   if (Value) {
-    for (std::size_t Key : QueryKeys(Value)) {
-      auto [First, Last] = Hashed.equal_range(Key);
+    TQueryKeys Query = QueryKeys(Value);
+    for (std::size_t k = 0; k < Query.Count; ++k) {
+      auto [First, Last] = Hashed.equal_range(Query.Keys[k]);
       for (auto It = First; It != Last; ++It)
         if (Matches(It->second) && Visit(It->second)) return;
     }
