@@ -39,7 +39,13 @@ Ref<TOCLCollection> TOCLCollection::Clone() const {
 
 Ref<TOCLCollection> TOCLCollection::Copy() const {
   Ref<TOCLCollection> Result = Clone();
-  Result->AddAll(const_cast<TOCLCollection*>(this));
+  // Held elements copy with their index at once, without hashing them again.
+  if (HeldItems() && Result->GetInMemory() && Result->TOCLMemInstance::GetCount() == 0) {
+    Result->Items() = Items();
+    Result->FIndex = FIndex;
+  } else {
+    Result->AddAll(const_cast<TOCLCollection*>(this));
+  }
   return Result;
 }
 

@@ -17,8 +17,13 @@ namespace {
 
 enum TKeyKind : std::size_t { key_number = 1, key_text, key_boolean, key_type };
 
+// A full avalanche (the splitmix64 finaliser): the table takes its slot from the low bits, and
+// number hashes carry their information in the high ones.
 std::size_t Mix(TKeyKind Kind, std::size_t Hash) {
-  return (Hash ^ (Kind * 0x9E3779B97F4A7C15ull)) * 0xBF58476D1CE4E5B9ull;
+  std::uint64_t x = Hash ^ (Kind * 0x9E3779B97F4A7C15ull);
+  x = (x ^ (x >> 30)) * 0xBF58476D1CE4E5B9ull;
+  x = (x ^ (x >> 27)) * 0x94D049BB133111EBull;
+  return static_cast<std::size_t>(x ^ (x >> 31));
 }
 
 // Equal numbers hash alike whatever their class (Integer 1 and Real 1.0); 0 and -0 are equal.
@@ -85,21 +90,30 @@ TQueryKeys QueryKeys(IOCLAny* Value) {
   return Result;
 }
 
+constexpr int EmptySlot = -1;
+constexpr int ErasedSlot = -2;
+
+// Calls Visit with the position of each slot holding Key, until Visit answers true.
+template <class F>
+bool ForEachSlot(const std::vector<TElementIndex::TSlot>& Slots, std::size_t Key, F Visit) {
+  if (Slots.empty()) return false;
+  std::size_t Mask = Slots.size() - 1;
+  for (std::size_t i = Key & Mask; Slots[i].Position != EmptySlot; i = (i + 1) & Mask)
+    if (Slots[i].Position >= 0 && Slots[i].Key == Key && Visit(Slots[i].Position)) return true;
+  return false;
+}
+
 // Calls Visit with each position whose element equals Value until Visit answers true.
 template <class F>
-void ForEachMatch(const std::unordered_multimap<std::size_t, int>& Hashed,
-                  const std::vector<int>& Scanned, const TElementIndex::TItems& Items,
-                  IOCLAny* Value, F Visit) {
+void ForEachMatch(const std::vector<TElementIndex::TSlot>& Slots, const std::vector<int>& Scanned,
+                  const TElementIndex::TItems& Items, IOCLAny* Value, F Visit) {
   auto Matches = [&](int Position) {
     return Items[static_cast<std::size_t>(Position)]->isEqual(Value);
   };
   if (Value) {
     TQueryKeys Query = QueryKeys(Value);
-    for (std::size_t k = 0; k < Query.Count; ++k) {
-      auto [First, Last] = Hashed.equal_range(Query.Keys[k]);
-      for (auto It = First; It != Last; ++It)
-        if (Matches(It->second) && Visit(It->second)) return;
-    }
+    for (std::size_t k = 0; k < Query.Count; ++k)
+      if (ForEachSlot(Slots, Query.Keys[k], [&](int P) { return Matches(P) && Visit(P); })) return;
   }
   for (int Position : Scanned)
     if (Matches(Position) && Visit(Position)) return;
@@ -111,9 +125,34 @@ void TElementIndex::Insert(IOCLAny* Element, int Position) {
   if (!Element) return;  // nil equals nothing
   std::size_t Key = 0;
   if (ElementKey(Element, Key))
-    FHashed.emplace(Key, Position);
+    InsertKey(Key, Position);
   else
     FScanned.push_back(Position);
+}
+
+void TElementIndex::InsertKey(std::size_t Key, int Position) {
+  if ((FUsed + 1) * 2 > FSlots.size()) Grow();
+  std::size_t Mask = FSlots.size() - 1;
+  std::size_t i = Key & Mask;
+  while (FSlots[i].Position >= 0)
+    i = (i + 1) & Mask;
+  if (FSlots[i].Position == EmptySlot) ++FUsed;
+  FSlots[i] = TSlot{Key, Position};
+}
+
+void TElementIndex::Grow() {
+  std::vector<TSlot> Old = std::move(FSlots);
+  // Sized for the live slots only: erased ones are dropped here.
+  std::size_t Live = 0;
+  for (const TSlot& Slot : Old)
+    Live += Slot.Position >= 0;
+  std::size_t Size = 16;
+  while (Size < (Live + 1) * 4)
+    Size *= 2;
+  FSlots.assign(Size, TSlot{});
+  FUsed = 0;
+  for (const TSlot& Slot : Old)
+    if (Slot.Position >= 0) InsertKey(Slot.Key, Slot.Position);
 }
 
 void TElementIndex::Erase(IOCLAny* Element, int Position) {
@@ -123,35 +162,37 @@ void TElementIndex::Erase(IOCLAny* Element, int Position) {
     std::erase(FScanned, Position);
     return;
   }
-  auto [First, Last] = FHashed.equal_range(Key);
-  for (auto It = First; It != Last; ++It) {
-    if (It->second == Position) {
-      FHashed.erase(It);
+  if (FSlots.empty()) return;
+  std::size_t Mask = FSlots.size() - 1;
+  for (std::size_t i = Key & Mask; FSlots[i].Position != EmptySlot; i = (i + 1) & Mask) {
+    if (FSlots[i].Key == Key && FSlots[i].Position == Position) {
+      FSlots[i].Position = ErasedSlot;  // keeps the probe chains behind it intact
       return;
     }
   }
 }
 
 void TElementIndex::Clear() {
-  FHashed.clear();
+  FSlots.clear();
+  FUsed = 0;
   FScanned.clear();
 }
 
 bool TElementIndex::Contains(const TItems& Items, IOCLAny* Value) const {
   bool Found = false;
-  ForEachMatch(FHashed, FScanned, Items, Value, [&](int) { return Found = true; });
+  ForEachMatch(FSlots, FScanned, Items, Value, [&](int) { return Found = true; });
   return Found;
 }
 
 int TElementIndex::CountOf(const TItems& Items, IOCLAny* Value) const {
   int Count = 0;
-  ForEachMatch(FHashed, FScanned, Items, Value, [&](int) { return ++Count, false; });
+  ForEachMatch(FSlots, FScanned, Items, Value, [&](int) { return ++Count, false; });
   return Count;
 }
 
 int TElementIndex::FirstOf(const TItems& Items, IOCLAny* Value) const {
   int First = -1;
-  ForEachMatch(FHashed, FScanned, Items, Value, [&](int Position) {
+  ForEachMatch(FSlots, FScanned, Items, Value, [&](int Position) {
     if (First < 0 || Position < First) First = Position;
     return false;
   });
@@ -160,7 +201,7 @@ int TElementIndex::FirstOf(const TItems& Items, IOCLAny* Value) const {
 
 std::vector<int> TElementIndex::Matches(const TItems& Items, IOCLAny* Value) const {
   std::vector<int> Result;
-  ForEachMatch(FHashed, FScanned, Items, Value, [&](int Position) {
+  ForEachMatch(FSlots, FScanned, Items, Value, [&](int Position) {
     Result.push_back(Position);
     return false;
   });

@@ -90,6 +90,23 @@ TEST_F(CollectionTest, MembershipCountingAndEmptiness) {
   EXPECT_EQ(Mixed->GetCount(), 1);
 }
 
+TEST_F(CollectionTest, MembershipStaysRightThroughManyReplacements) {
+  // Enough elements and replacements to grow the index several times and reuse erased slots.
+  auto Numbers = Seq({});
+  for (int i = 0; i < 3000; ++i)
+    Numbers->Add(Int(i % 1000));
+  for (int Round = 1; Round <= 3; ++Round)
+    for (int i = 0; i < 3000; ++i)
+      Numbers->SetItems(i, Int(i % 1000 + Round * 1000));
+  EXPECT_FALSE(Numbers->includes(Int(2999).get())->GetasBoolean());
+  EXPECT_FALSE(Numbers->includes(Int(5).get())->GetasBoolean());
+  EXPECT_EQ(Numbers->_count_(Int(3005).get())->GetasInt64(), 3);
+  EXPECT_EQ(Numbers->indexOf(MakeRef<TOCLReal>(3999.0L).get())->GetasInt64(), 1000);
+  EXPECT_EQ(Numbers->excluding(Int(3000).get())->GetCount(), 2997);
+  Numbers->InternalSort();
+  EXPECT_EQ(Numbers->indexOf(Int(3001).get())->GetasInt64(), 4);
+}
+
 TEST_F(CollectionTest, SortSumAndPlaceholders) {
   EXPECT_EQ(Text(SetOf({3, 1, 2})->sort()), u"Sequence{1,2,3}");
   auto Words = MakeRef<TOCLSequence>();

@@ -2,7 +2,6 @@
 // Positions of a collection's elements by the hash of their value, so that membership by the
 // elements' own equality does not scan the whole collection.
 #include <cstddef>
-#include <unordered_map>
 #include <vector>
 #include "gello/ocl/Interfaces.h"
 
@@ -13,6 +12,11 @@ namespace gello {
 class TElementIndex {
  public:
   using TItems = std::vector<Ref<IOCLAny>>;
+  /// One slot of the open-addressing table: a key and the position of an element carrying it.
+  struct TSlot {
+    std::size_t Key = 0;
+    int Position = -1;  // -1 empty, -2 erased
+  };
 
   void Insert(IOCLAny* Element, int Position);
   void Erase(IOCLAny* Element, int Position);
@@ -27,7 +31,11 @@ class TElementIndex {
   std::vector<int> Matches(const TItems& Items, IOCLAny* Value) const;
 
  private:
-  std::unordered_multimap<std::size_t, int> FHashed;
+  void InsertKey(std::size_t Key, int Position);
+  void Grow();
+
+  std::vector<TSlot> FSlots;  // a power of two in size, at most half in use
+  std::size_t FUsed = 0;      // slots holding a position or erased
   std::vector<int> FScanned;
 };
 
