@@ -7,6 +7,7 @@
 #include "gello/instance/Instance.h"
 #include "gello/ocl/Boolean.h"
 #include "gello/ocl/Null.h"
+#include "gello/ocl/Set.h"
 #include "gello/ocl/SystemClasses.h"
 #include "gello/ocl/Type.h"
 
@@ -102,9 +103,8 @@ Ref<IRTTIClassInstance> TOCLAny::GetPropertyValue(int) const {
 }
 
 Ref<IOCLSet> TOCLAny::allInstances() const {
-  // The memory-instance Set arrives with the collection classes.
-  throw EOCLException(u"allInstances is not available: no collection classes for " +
-                      InstanceTypeName());
+  // No instance store keeps values of a model class yet, so the Set over the type is empty.
+  return MakeRef<TOCLSet>(GetInstanceType());
 }
 
 String TOCLAny::GetExceptionMessage() const {

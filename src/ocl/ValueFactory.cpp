@@ -1,12 +1,29 @@
 #include "gello/foundation/Exceptions.h"
 #include "gello/ocl/Any.h"
+#include "gello/ocl/Bag.h"
 #include "gello/ocl/Boolean.h"
 #include "gello/ocl/Integer.h"
 #include "gello/ocl/Null.h"
-#include "gello/ocl/StringMaker.h"
+#include "gello/ocl/Sequence.h"
+#include "gello/ocl/Set.h"
+#include "gello/ocl/StringDescendant.h"
+#include "gello/ocl/SystemClasses.h"
 #include "gello/ocl/Tuple.h"
 
 namespace gello {
+
+namespace {
+
+// A class that extends the built-in String with properties of its own keeps them in a tuple.
+Ref<IOCLAny> MakeStringOfClass(const Ref<IRTTIClass>& AClass) {
+  const Ref<IRTTIClass>& Builtin = OCLSystemClasses().String;
+  if (Builtin && AClass != Builtin && AClass->IsClass(Builtin.get()) &&
+      AClass->GetPropertyCount() > 0)
+    return MakeRef<TOCLStringDescendant>(AClass);
+  return MakeRef<TOCLString>(AClass);
+}
+
+}  // namespace
 
 Ref<IOCLAny> TOCLAny::CreateFromClass(const Ref<IRTTIClass>& AClass) {
   if (!AClass)
@@ -17,13 +34,13 @@ Ref<IOCLAny> TOCLAny::CreateFromClass(const Ref<IRTTIClass>& AClass) {
     case rtti_class:
       return MakeRef<TOCLTuple>(AClass);
     case rtti_bag:
+      return MakeRef<TOCLBag>(AClass);
     case rtti_sequence:
+      return MakeRef<TOCLSequence>(AClass);
     case rtti_set:
-      // The collection value classes are not part of this library yet.
-      throw EOCLException(u"Internal OCL error: no collection value class for " +
-                          AClass->GetName());
+      return MakeRef<TOCLSet>(AClass);
     case rtti_string:
-      return MakeOCLString(String());
+      return MakeStringOfClass(AClass);
     case rtti_integer:
       return MakeRef<TOCLInteger>(AClass);
     case rtti_real:

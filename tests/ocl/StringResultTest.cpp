@@ -4,6 +4,7 @@
 #include "gello/foundation/Exceptions.h"
 #include "gello/ocl/Boolean.h"
 #include "gello/ocl/Integer.h"
+#include "gello/ocl/String.h"
 #include "gello/ocl/StringMaker.h"
 
 using namespace gello;
@@ -41,9 +42,14 @@ Ref<IOCLString> MakeTextOnly(const String& Text) {
   return MakeRef<TTextOnly>(Text);
 }
 
+// The library's own maker, put back after each replacement.
+Ref<IOCLString> MakeLibraryString(const String& Text) {
+  return MakeRef<TOCLString>(Text);
+}
+
 struct StringResultTest : testing::Test {
   void SetUp() override { SetOCLStringMaker(MakeTextOnly); }
-  void TearDown() override { SetOCLStringMaker(nullptr); }
+  void TearDown() override { SetOCLStringMaker(MakeLibraryString); }
 };
 
 }  // namespace
@@ -62,7 +68,11 @@ TEST_F(StringResultTest, NumbersAndBooleansGiveTheirTextAsStrings) {
   EXPECT_EQ(TOCLBoolean::BooleanValue(rtti_unknown)->asOCLString()->GetasString(), u"unknown");
 }
 
-TEST(StringResultWithoutClass, StringResultsRaiseUntilAStringClassIsRegistered) {
+TEST(StringResultWithoutClass, TheStringClassRegistersItselfAndAnEmptySlotRaises) {
+  // Loading the library fills the slot with the String value class.
+  EXPECT_TRUE(dynamic_cast<TOCLString*>(MakeRef<TOCLReal>(1)->toChar().get()));
+  SetOCLStringMaker(nullptr);
   ExpectMessage<EOCLException>([] { MakeRef<TOCLReal>(1)->toChar(); },
                                u"Internal OCL error: no String value class registered");
+  SetOCLStringMaker(MakeLibraryString);
 }

@@ -5,6 +5,7 @@
 #include <vector>
 #include "gello/ocl/Boolean.h"
 #include "gello/ocl/Integer.h"
+#include "gello/ocl/Set.h"
 
 using namespace gello;
 
@@ -59,4 +60,19 @@ TEST(ThreadTest, ASharedNumberServesOperationsFromManyThreads) {
   });
   EXPECT_EQ(Wrong, 0);
   EXPECT_EQ(Two->GetRefCount(), 1);
+}
+
+TEST(ThreadTest, ASharedSetAnswersMembershipAndCopiesFromManyThreads) {
+  // Questions and copies never change the receiver, so a shared Set needs no lock.
+  auto Shared = MakeRef<TOCLSet>();
+  for (int i = 0; i < 1000; ++i)
+    Shared->Add(MakeRef<TOCLInteger>(i * 2));
+  int Wrong = RunTogether([&](int i) {
+    auto Asked = MakeRef<TOCLInteger>(i % 2000);
+    Ref<IOCLSet> Grown = Shared->including(Asked.get());
+    return Shared->Exists(Asked.get()) == (i % 2 == 0) && Grown->Exists(Asked.get()) &&
+           Grown->GetCount() == (i % 2 == 0 ? 1000 : 1001);
+  });
+  EXPECT_EQ(Wrong, 0);
+  EXPECT_EQ(Shared->GetCount(), 1000);
 }

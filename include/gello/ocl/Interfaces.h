@@ -184,11 +184,12 @@ struct IOCLSequence : virtual IOCLCollection {
   static constexpr GUID IID = GUIDLiteral("{B4C3D057-B29D-44FD-AE3F-CF325F253C2A}");
   virtual Ref<IOCLSequence> append(IOCLAny* o) const = 0;
   virtual Ref<IOCLSequence> prepend(IOCLAny* o) const = 0;
-  virtual Ref<IOCLT> at(IOCLInteger* i) const = 0;
+  /// The element itself (any kind), so `at`, `first` and `last` answer IOCLAny.
+  virtual Ref<IOCLAny> at(IOCLInteger* i) const = 0;
   virtual Ref<IOCLSequence> subSequence(IOCLInteger* lower, IOCLInteger* upper) const = 0;
   virtual Ref<IOCLSequence> excluding(IOCLAny* e) const = 0;
-  virtual Ref<IOCLT> first() const = 0;
-  virtual Ref<IOCLT> last() const = 0;
+  virtual Ref<IOCLAny> first() const = 0;
+  virtual Ref<IOCLAny> last() const = 0;
   virtual Ref<IOCLSequence> flatten() const = 0;
   virtual Ref<IOCLSequence> including(IOCLAny* e) const = 0;
   virtual Ref<IOCLInteger> indexOf(IOCLAny* o) const = 0;

@@ -1,0 +1,112 @@
+// Collection operations on 10,000 and 100,000 Integers: membership is hashed, so whole-collection
+// operations (and N membership questions) grow linearly with N.
+#include <benchmark/benchmark.h>
+
+#include "gello/ocl/Bag.h"
+#include "gello/ocl/Integer.h"
+#include "gello/ocl/Sequence.h"
+#include "gello/ocl/Set.h"
+
+namespace {
+
+using namespace gello;
+
+// The Integers From .. From + Count - 1, in that order.
+template <class C>
+Ref<C> Range(std::int64_t From, std::int64_t Count) {
+  auto Result = MakeRef<C>();
+  for (std::int64_t i = 0; i < Count; ++i)
+    Result->Add(MakeRef<TOCLInteger>(From + i));
+  return Result;
+}
+
+std::vector<Ref<IOCLInteger>> Probes(std::int64_t Count) {
+  std::vector<Ref<IOCLInteger>> Result;
+  for (std::int64_t i = 0; i < Count; ++i)
+    Result.push_back(MakeRef<TOCLInteger>(i * 2));
+  return Result;
+}
+
+void BM_SetIncluding(benchmark::State& State) {
+  // One including onto an N-element Set: a copy of the Set plus a hashed membership test.
+  auto S = Range<TOCLSet>(0, State.range(0));
+  auto New = MakeRef<TOCLInteger>(-1);
+  for (auto _ : State)
+    benchmark::DoNotOptimize(S->including(New.get()).get());
+}
+BENCHMARK(BM_SetIncluding)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+void BM_SetUnion(benchmark::State& State) {
+  auto A = Range<TOCLSet>(0, State.range(0));
+  auto B = Range<TOCLSet>(State.range(0) / 2, State.range(0));
+  for (auto _ : State)
+    benchmark::DoNotOptimize(A->union_(static_cast<IOCLSet*>(B.get())).get());
+}
+BENCHMARK(BM_SetUnion)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+void BM_SetIntersection(benchmark::State& State) {
+  auto A = Range<TOCLSet>(0, State.range(0));
+  auto B = Range<TOCLSet>(State.range(0) / 2, State.range(0));
+  for (auto _ : State)
+    benchmark::DoNotOptimize(A->intersection(static_cast<IOCLSet*>(B.get())).get());
+}
+BENCHMARK(BM_SetIntersection)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+void BM_SetMinus(benchmark::State& State) {
+  auto A = Range<TOCLSet>(0, State.range(0));
+  auto B = Range<TOCLSet>(State.range(0) / 2, State.range(0));
+  for (auto _ : State)
+    benchmark::DoNotOptimize(A->_SUBTRACT_(B.get()).get());
+}
+BENCHMARK(BM_SetMinus)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+void BM_SetIncludes(benchmark::State& State) {
+  // N questions, half of them hits.
+  auto S = Range<TOCLSet>(0, State.range(0));
+  auto Asked = Probes(State.range(0));
+  for (auto _ : State)
+    for (const auto& Probe : Asked)
+      benchmark::DoNotOptimize(S->includes(Probe.get()).get());
+}
+BENCHMARK(BM_SetIncludes)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+void BM_SetIncludesAll(benchmark::State& State) {
+  auto S = Range<TOCLSet>(0, State.range(0));
+  auto Half = Range<TOCLSequence>(State.range(0) / 2, State.range(0) / 2);
+  for (auto _ : State)
+    benchmark::DoNotOptimize(S->includesAll(Half.get()).get());
+}
+BENCHMARK(BM_SetIncludesAll)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+void BM_BagCount(benchmark::State& State) {
+  // N questions on a Bag that holds every value twice.
+  auto B = Range<TOCLBag>(0, State.range(0) / 2);
+  B->AddAll(Range<TOCLBag>(0, State.range(0) / 2).get());
+  auto Asked = Probes(State.range(0));
+  for (auto _ : State)
+    for (const auto& Probe : Asked)
+      benchmark::DoNotOptimize(B->_count_(Probe.get()).get());
+}
+BENCHMARK(BM_BagCount)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+void BM_SequenceExcluding(benchmark::State& State) {
+  auto S = Range<TOCLSequence>(0, State.range(0));
+  auto Gone = MakeRef<TOCLInteger>(State.range(0) / 2);
+  for (auto _ : State)
+    benchmark::DoNotOptimize(S->excluding(Gone.get()).get());
+}
+BENCHMARK(BM_SequenceExcluding)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+void BM_SequenceIndexOf(benchmark::State& State) {
+  // N questions, half of them hits.
+  auto S = Range<TOCLSequence>(0, State.range(0));
+  auto Asked = Probes(State.range(0));
+  for (auto _ : State)
+    for (const auto& Probe : Asked)
+      benchmark::DoNotOptimize(S->indexOf(Probe.get()).get());
+}
+BENCHMARK(BM_SequenceIndexOf)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();
