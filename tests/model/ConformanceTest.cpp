@@ -62,7 +62,6 @@ TEST_F(ConformanceTest, SubclassesConformUpwardOnly) {
   EXPECT_FALSE(A->IsClass(B.get()));
   EXPECT_TRUE(A->IsClass(A.get()));
   EXPECT_FALSE(A->IsClass(nullptr));
-  EXPECT_TRUE(C->Compatible(A.get()));
   EXPECT_TRUE(C->HasAncestor(C.get()));
   auto T = MakeRef<TRTTIGeneric>(u"T");
   Made.push_back(T);
@@ -150,7 +149,7 @@ TEST_F(ConformanceTest, FindMethodTakesTheFirstFit) {
   auto Real = Class(u"Real"), Integer = Class(u"Integer", Real);
   auto Base = Class(u"Base"), Sub = Class(u"Sub", Base);
   auto ForReal = Method(Sub, u"f", {Real});
-  auto ForInteger = Method(Sub, u"f", {Integer});
+  Method(Sub, u"f", {Integer});
   auto Inherited = Method(Base, u"f", {Integer, Integer});
   EXPECT_EQ(Sub->FindMethod(u"f", Args({Integer}).get()), ForReal);  // first fit, not best
   EXPECT_EQ(Sub->FindMethod(u"f", Args({Integer, Integer}).get()), Inherited);
@@ -159,5 +158,4 @@ TEST_F(ConformanceTest, FindMethodTakesTheFirstFit) {
   EXPECT_FALSE(Sub->FindMethod(u"g", Args({Integer}).get()));
   auto NoArgs = Method(Base, u"h", {});
   EXPECT_EQ(Sub->FindMethod(u"h", nullptr), NoArgs);
-  EXPECT_NE(ForInteger, ForReal);
 }

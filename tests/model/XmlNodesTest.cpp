@@ -10,7 +10,7 @@ const char* const Document =
     "<packagedElement name='b'/></model></root>";
 }
 
-TEST(XmlNodes, FindNodeWalksPathsAndRetriesWithoutPrefix) {
+TEST(XmlNodes, FindNodeWalksPathsRetriesWithoutPrefixAndIndexesFromAPosition) {
   pugi::xml_document Doc;
   ASSERT_TRUE(Doc.load_string(Document));
   pugi::xml_node Root = Doc.child("root");
@@ -20,12 +20,7 @@ TEST(XmlNodes, FindNodeWalksPathsAndRetriesWithoutPrefix) {
   EXPECT_FALSE(FindNode(Root, u"model/missing"));
   EXPECT_FALSE(FindNode(Root, u"missing/packagedElement"));
   EXPECT_FALSE(FindNode(Root, u"x:y:model"));  // only the first prefix is dropped
-}
-
-TEST(XmlNodes, FindNodeIndexSearchesFromAPosition) {
-  pugi::xml_document Doc;
-  ASSERT_TRUE(Doc.load_string(Document));
-  pugi::xml_node Model = Doc.child("root").child("model");
+  pugi::xml_node Model = Root.child("model");  // the index search starts at a position
   EXPECT_EQ(FindNodeIndex(Model, u"packagedElement", 0), 0);
   EXPECT_EQ(FindNodeIndex(Model, u"packagedElement", 1), 2);
   EXPECT_EQ(FindNodeIndex(Model, u"uml:packagedElement", 1), 2);
