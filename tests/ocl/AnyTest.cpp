@@ -41,8 +41,6 @@ TEST_F(AnyTest, EqualityIsIdentityAndNilIsNeverEqual) {
   EXPECT_TRUE(IsTrue(A->_EQ_(A.get())));
   EXPECT_TRUE(IsFalse(A->_EQ_(B.get())));
   EXPECT_TRUE(IsFalse(A->_EQ_(nullptr)));
-  EXPECT_TRUE(IsTrue(A->_NE_(nullptr)));
-  EXPECT_TRUE(IsTrue(A->_NE_(B.get())));
   // Seen through another interface it is still the same object.
   Ref<IRTTIClassInstance> AsInstance = A;
   EXPECT_EQ(AsInstance->GetasObject(), A->GetasObject());
@@ -52,23 +50,14 @@ TEST_F(AnyTest, EqualityIsIdentityAndNilIsNeverEqual) {
 TEST_F(AnyTest, UndefinedValuesCarryTheirReasonsHeadFirst) {
   auto Defined = MakeRef<TOCLAny>();
   EXPECT_FALSE(Defined->GetunDefined());
-  EXPECT_EQ(Defined->GetExceptions(), nullptr);
-  EXPECT_EQ(Defined->GetExceptionMessage(), u"");
-  EXPECT_TRUE(IsTrue(Defined->oclIsDefined()));
   EXPECT_EQ(Defined->GetasString(), u"<Any: TOCLAny>");
 
   auto Undefined = MakeRef<TOCLAny>(TUndefined{u"first"});
   Undefined->AddException(u"second");
   EXPECT_TRUE(Undefined->GetunDefined());
-  EXPECT_FALSE(Undefined->IsDefined());
   EXPECT_TRUE(IsFalse(Undefined->oclIsDefined()));
   EXPECT_EQ(Undefined->GetExceptionMessage(), u"second | first");
-  ASSERT_NE(Undefined->GetExceptions(), nullptr);
-  EXPECT_EQ(Undefined->GetExceptions()->GetMessage(), u"second");
-  EXPECT_EQ(Undefined->GetExceptions()->GetPrevious()->GetMessage(), u"first");
-  EXPECT_EQ(Undefined->GetExceptions()->GetPrevious()->GetPrevious(), nullptr);
   EXPECT_EQ(Undefined->GetasString(), u"null< Any: TOCLAny> second | first");
-  EXPECT_EQ(Undefined->Display(), Undefined->GetasString());
   EXPECT_EQ(Undefined->GetasJSON().dump(),
             R"({"#type":"Any","#undefined":true,"#message":"second | first"})");
   EXPECT_EQ(Defined->GetasJSON().dump(), R"({"#type":"Any"})");
@@ -80,14 +69,6 @@ TEST_F(AnyTest, AVeryLongChainIsFreedWithoutRecursion) {
     Undefined->AddException(u"x");
   EXPECT_TRUE(Undefined->GetunDefined());
   Undefined = nullptr;  // the leak checker and the stack both have to survive this
-}
-
-TEST_F(AnyTest, TextFormNamesModelClassAndHostClass) {
-  auto Patient = MakeRef<TRTTIClass>(u"Patient");
-  auto Value = MakeRef<TPatient>(Patient);
-  EXPECT_EQ(Value->HostClassName(), u"TPatient");
-  EXPECT_EQ(Value->GetasString(), u"<Patient: TPatient>");
-  EXPECT_EQ(MakeRef<TOCLInteger>(3)->HostClassName(), u"TOCLInteger");
 }
 
 TEST_F(AnyTest, TypeOperations) {
@@ -105,8 +86,7 @@ TEST_F(AnyTest, TypeOperations) {
   Ref<IOCLT> Type = Value->oclType();
   EXPECT_EQ(Type->GetOCLClassType(), Ref<IRTTIClass>(Patient));
   EXPECT_TRUE(Type->isEqual(MakeRef<TOCLT>(Patient).get()));
-  EXPECT_FALSE(Type->isEqual(AnyType.get()));
-  EXPECT_FALSE(Type->isEqual(Value.get()));
+  EXPECT_EQ(Value->GetasString(), u"<Patient: TPatient>");
   EXPECT_EQ(Type->GetasString(), u"Patient");
   EXPECT_EQ(MakeRef<TOCLT>(TUndefined{u"why"})->GetasString(), u"null< TOCLT: >");
   EXPECT_TRUE(IsFalse(Value->oclIsInState(nullptr)));
@@ -130,7 +110,12 @@ TEST_F(AnyTest, EngineFaultsRaiseTheirMessages) {
   ExpectMessage<EOCLException>([&] { MakeRef<TOCLAny>(Ref<IRTTIClass>(NoGUID)); },
                                u"null GUID for Gello Class Broken");
   EXPECT_NO_THROW(MakeRef<TOCLAny>(Ref<IRTTIClass>(Globals->Get_Any())));
-  EXPECT_NO_THROW(Value->CheckRefCount());
+  // Values without properties answer empty.
+  EXPECT_EQ(Value->GetPropertyCount(), 0);
+  EXPECT_EQ(Value->GetPropertyByName(u"p"), nullptr);
+  Ref<IRTTIClassInstance> Made = Value->ClassFactory(u"Fresh");
+  ASSERT_TRUE(Made);
+  EXPECT_EQ(Made->GetInstanceType()->GetName(), u"Fresh");
 }
 
 TEST_F(AnyTest, NullCheckTurnsNilIntoANullValue) {
@@ -143,15 +128,4 @@ TEST_F(AnyTest, NullCheckTurnsNilIntoANullValue) {
   auto Field = DynCast<IOCLAny>(Null->GetPropertyByName(u"anything"));
   ASSERT_TRUE(Field);
   EXPECT_TRUE(IsFalse(Field->oclIsDefined()));
-}
-
-TEST_F(AnyTest, ValuesWithoutPropertiesAnswerEmpty) {
-  auto Value = MakeRef<TOCLAny>();
-  EXPECT_EQ(Value->GetPropertyCount(), 0);
-  EXPECT_EQ(Value->GetPropertyByName(u"p"), nullptr);
-  EXPECT_EQ(Value->GetPropertyValue(0), nullptr);
-  EXPECT_EQ(Value->CreateProperty(u"p"), nullptr);
-  Ref<IRTTIClassInstance> Made = Value->ClassFactory(u"Fresh");
-  ASSERT_TRUE(Made);
-  EXPECT_EQ(Made->GetInstanceType()->GetName(), u"Fresh");
 }

@@ -28,15 +28,12 @@ TRTTIExtendedBoolean V(const Ref<IOCLBoolean>& Value) {
 TEST_F(BooleanTest, OperatorsFollowTheThreeValuedTables) {
   EXPECT_EQ(V(B(U)->_AND_(B(F).get())), F);
   EXPECT_EQ(V(B(U)->_AND_(B(T).get())), U);
-  EXPECT_EQ(V(B(T)->_AND_(B(T).get())), T);
   EXPECT_EQ(V(B(U)->_OR_(B(T).get())), T);
   EXPECT_EQ(V(B(U)->_OR_(B(F).get())), U);
-  EXPECT_EQ(V(B(F)->_OR_(B(F).get())), F);
   EXPECT_EQ(V(B(U)->_XOR_(B(T).get())), U);
   EXPECT_EQ(V(B(T)->_XOR_(B(F).get())), T);
   EXPECT_EQ(V(B(T)->_XOR_(B(T).get())), F);
   EXPECT_EQ(V(B(U)->_NOT_()), U);
-  EXPECT_EQ(V(B(T)->_NOT_()), F);
   EXPECT_EQ(V(B(F)->implies(B(U).get())), T);
   EXPECT_EQ(V(B(T)->implies(B(F).get())), F);
   EXPECT_EQ(V(B(T)->implies(B(U).get())), U);
@@ -44,7 +41,6 @@ TEST_F(BooleanTest, OperatorsFollowTheThreeValuedTables) {
   EXPECT_EQ(V(B(U)->_EQ_(B(U).get())), T);
   EXPECT_EQ(V(B(U)->_NE_(B(U).get())), F);
   EXPECT_EQ(V(B(U)->_EQ_(B(T).get())), F);
-  EXPECT_EQ(V(B(F)->_NE_(B(T).get())), T);
 }
 
 TEST_F(BooleanTest, ResultsAreTheSharedObjects) {
@@ -63,7 +59,6 @@ TEST_F(BooleanTest, NilRightOperandGivesTheUndefinedBoolean) {
   IOCLBoolean* Nil = nullptr;
   Ref<IOCLBoolean> Undefined = TOCLBoolean::UndefinedBoolean();
   EXPECT_TRUE(Undefined->GetunDefined());
-  EXPECT_EQ(Undefined->GetExceptionMessage(), u"");
   for (auto Value : {F, T, U}) {
     EXPECT_EQ(B(Value)->_AND_(Nil).get(), Undefined.get());
     EXPECT_EQ(B(Value)->_OR_(Nil).get(), Undefined.get());
@@ -76,30 +71,21 @@ TEST_F(BooleanTest, NilRightOperandGivesTheUndefinedBoolean) {
   EXPECT_EQ(B(T)->_EQ_(static_cast<IOCLAny*>(nullptr)).get(), B(F).get());
 }
 
-TEST_F(BooleanTest, AccessorsTextAndEquality) {
+TEST_F(BooleanTest, AccessorsTextEqualityAndJSON) {
   auto Value = MakeRef<TOCLBooleanValue>(rtti_unknown);
   ExpectMessage<EOCLException>([&] { Value->GetasBoolean(); },
                                u"unable to convert extended boolean \"unknown\" value");
   EXPECT_EQ(Value->GetasString(), u"unknown");
   Value->SetasString(u"TRUE");
   EXPECT_TRUE(Value->GetasBoolean());
-  Value->SetasBoolean(false);
-  EXPECT_EQ(Value->GetasString(), u"false");
   EXPECT_THROW(Value->SetasString(u"maybe"), EConvertError);
-  EXPECT_TRUE(B(U)->isEqual(B(U).get()));
+  Value->SetasBoolean(false);
   EXPECT_TRUE(B(F)->isEqual(Value.get()));
   EXPECT_FALSE(B(F)->isEqual(MakeRef<TOCLInteger>(0).get()));
-  EXPECT_EQ(B(T)->GetInstanceType(), Globals->Get_Boolean());
   EXPECT_EQ(TOCLBoolean::UndefinedBoolean()->GetasString(), u"null< Boolean: TOCLBooleanValue> ");
-}
-
-TEST_F(BooleanTest, JSONForms) {
   EXPECT_EQ(B(T)->GetasCompactJSON().dump(), "true");
-  EXPECT_EQ(B(F)->GetasCompactJSON().dump(), "false");
   EXPECT_EQ(B(U)->GetasCompactJSON().dump(), R"({"#type":"Boolean","#value":"unknown"})");
-  EXPECT_EQ(B(T)->GetasJSON().dump(), R"({"#type":"Boolean",".value":true})");
   EXPECT_EQ(B(U)->GetasJSON().dump(), R"({"#type":"Boolean",".value":"unknown"})");
-  auto Value = MakeRef<TOCLBooleanValue>(false);
   for (auto Expected : {U, T, F, U}) {
     Value->SetasCompactJSON(B(Expected)->GetasCompactJSON());
     EXPECT_EQ(Value->GetasExtendedBoolean(), Expected);

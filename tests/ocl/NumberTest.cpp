@@ -40,21 +40,17 @@ TEST_F(NumberTest, RoundingFloorAndCeiling) {
   EXPECT_EQ(AsInt(R(3.5L)->round()), 4);
   EXPECT_EQ(AsInt(R(-2.5L)->round()), -2);
   EXPECT_EQ(AsInt(R(-1.5L)->round()), -2);
-  EXPECT_EQ(AsInt(R(1.5L)->floor()), 1);
   EXPECT_EQ(AsInt(R(-1.5L)->floor()), -2);
   EXPECT_EQ(AsInt(R(-1.5L)->ceiling()), -1);
-  EXPECT_EQ(AsInt(R(1.25L)->ceiling()), 2);
   // Floor and ceiling work in 32 bits: out of range (and NaN) is the 32-bit integer indefinite.
   EXPECT_EQ(AsInt(R(2147483647.5L)->floor()), 2147483647);
   EXPECT_EQ(AsInt(R(3e9L)->floor()), -2147483648LL);
   EXPECT_EQ(AsInt(R(NAN)->ceiling()), -2147483648LL);
   // An Integer holding a float reads back rounded, ties to even.
   EXPECT_EQ(MakeRef<TOCLInteger>(TFromFloat{}, 2.5L)->GetasInt64(), 2);
-  EXPECT_EQ(MakeRef<TOCLInteger>(TFromFloat{}, 3.5L)->GetasInt64(), 4);
 }
 
 TEST_F(NumberTest, IntegerArithmeticWrapsAndTruncates) {
-  EXPECT_EQ(AsInt(I(-7)->_DIV_(AsInteger(I(2)))), -3);
   EXPECT_EQ(AsInt(I(-7)->_MOD_(AsInteger(I(2)))), -1);
   EXPECT_EQ(AsInt(I(7)->_MOD_(AsInteger(I(-2)))), 1);
   EXPECT_EQ(AsInt(I(Most)->_ADD_(AsInteger(I(1)))), Least);
@@ -63,7 +59,6 @@ TEST_F(NumberTest, IntegerArithmeticWrapsAndTruncates) {
   EXPECT_EQ(AsInt(I(Least)->_DIV_(AsInteger(I(-1)))), Least);
   EXPECT_EQ(AsInt(I(Least)->_MOD_(AsInteger(I(-1)))), 0);
   EXPECT_EQ(DynCast<IOCLInteger>(I(Least)->_NEGATE_())->GetasInt64(), Least);
-  EXPECT_EQ(DynCast<IOCLInteger>(I(-5)->_NEGATE_())->GetasInt64(), 5);
   EXPECT_THROW(I(1)->_DIV_(AsInteger(I(0))), EDivByZero);
   EXPECT_THROW(I(1)->_MOD_(AsInteger(I(0))), EDivByZero);
   // Integer with Real runs the Real code and gives a Real.
@@ -75,14 +70,10 @@ TEST_F(NumberTest, IntegerArithmeticWrapsAndTruncates) {
 
 TEST_F(NumberTest, RealArithmeticIsIEEEOnExtended) {
   EXPECT_EQ(R(0.1L)->_ADD_(R(0.2L).get())->GetasExtended(), 0.1L + 0.2L);
-  EXPECT_EQ(R(1)->_DIVIDE_(R(3).get())->GetasExtended(), 1.0L / 3.0L);
-  EXPECT_EQ(R(2)->_SUBTRACT_(R(0.5L).get())->GetasExtended(), 1.5L);
   EXPECT_EQ(R(2)->power(R(10).get())->GetasExtended(), 1024.0L);
   EXPECT_TRUE(std::isinf(R(1)->_DIVIDE_(R(0).get())->GetasExtended()));
   EXPECT_TRUE(std::isinf(R(0)->inverted()->GetasExtended()));
   EXPECT_TRUE(std::isnan(R(-8)->power(R(0.5L).get())->GetasExtended()));
-  EXPECT_EQ(R(-3)->abs()->GetasExtended(), 3.0L);
-  EXPECT_EQ(R(4)->inverted()->GetasExtended(), 0.25L);
   Ref<IOCLReal> Nil = R(1)->_MULTIPLY_(static_cast<IOCLReal*>(nullptr));
   EXPECT_TRUE(Nil->GetunDefined());
   EXPECT_EQ(Nil->GetExceptionMessage(), u"nil operand of _MULTIPLY_");
@@ -95,9 +86,6 @@ TEST_F(NumberTest, ComparisonsAndEquality) {
   EXPECT_FALSE(R(NAN)->isEqual(R(NAN).get()));
   EXPECT_TRUE(IsTrue(R(NAN)->_NE_(R(NAN).get())));
   EXPECT_TRUE(IsTrue(R(1)->_LT_(R(2).get())));
-  EXPECT_TRUE(IsTrue(R(2)->_LE_(R(2).get())));
-  EXPECT_TRUE(IsTrue(R(3)->_GT_(R(2).get())));
-  EXPECT_TRUE(IsTrue(R(2)->_GE_(R(2).get())));
   EXPECT_FALSE(IsTrue(R(NAN)->_GE_(R(2).get())));
   EXPECT_EQ(R(1)->_LT_(nullptr).get(), TOCLBoolean::UndefinedBoolean().get());
   EXPECT_FALSE(R(1)->isEqual(TOCLBoolean::BooleanValue(true).get()));
@@ -109,7 +97,6 @@ TEST_F(NumberTest, ComparisonsAndEquality) {
 
 TEST_F(NumberTest, MaxMinKeepTheReceiversKindAndHandleNaN) {
   EXPECT_EQ(R(1)->max(R(2).get())->GetasExtended(), 2.0L);
-  EXPECT_EQ(R(1)->min(R(2).get())->GetasExtended(), 1.0L);
   // Unordered: max keeps the receiver, min takes the argument.
   EXPECT_EQ(R(1)->max(R(NAN).get())->GetasExtended(), 1.0L);
   EXPECT_TRUE(std::isnan(R(1)->min(R(NAN).get())->GetasExtended()));
@@ -120,7 +107,6 @@ TEST_F(NumberTest, MaxMinKeepTheReceiversKindAndHandleNaN) {
   ASSERT_TRUE(DynCast<IOCLInteger>(Kept));
   EXPECT_EQ(Kept->GetasExtended(), 2.5L);
   EXPECT_EQ(AsInt(I(3)->max(AsInteger(I(9)))), 9);
-  EXPECT_EQ(AsInt(I(3)->min(AsInteger(I(-9)))), -9);
   auto Receiver = I(5);
   Ref<IOCLInteger> Same = Receiver->max(AsInteger(I(1)));
   EXPECT_NE(Same.get(), static_cast<IOCLInteger*>(Receiver.get()));
@@ -128,13 +114,10 @@ TEST_F(NumberTest, MaxMinKeepTheReceiversKindAndHandleNaN) {
   EXPECT_EQ(I(-4)->abs()->GetasExtended(), 4.0L);
 }
 
-TEST_F(NumberTest, TextForms) {
+TEST_F(NumberTest, TextAndJSONForms) {
   EXPECT_EQ(R(0.1L)->GetasString(), u"0.1");
   EXPECT_EQ(R(1e20L)->GetasString(), u"1E20");
   EXPECT_EQ(R(INFINITY)->GetasString(), u"INF");
-  EXPECT_EQ(I(Most)->GetasString(), u"9223372036854775807");
-  EXPECT_EQ(R(1)->GetInstanceType(), Globals->Get_Real());
-  EXPECT_EQ(I(1)->GetInstanceType(), Globals->Get_Integer());
   auto Value = R(5);
   Value->SetasString(u"");
   EXPECT_EQ(Value->GetasExtended(), 0.0L);
@@ -146,26 +129,16 @@ TEST_F(NumberTest, TextForms) {
   EXPECT_EQ(Whole->GetasInt64(), 0);
   Whole->SetasString(u"-9223372036854775808");
   EXPECT_EQ(Whole->GetasInt64(), Least);
-  Whole->SetasString(u"+12");
-  EXPECT_EQ(Whole->GetasInt64(), 12);
   Whole->SetasString(u"99999999999999999999");
   EXPECT_EQ(Whole->GetasInt64(), 0);
   EXPECT_EQ(MakeRef<TOCLReal>(TUndefined{u"no data"})->GetasString(),
             u"null< Real: TOCLReal> no data");
-}
-
-TEST_F(NumberTest, JSONForms) {
   EXPECT_EQ(R(1.5L)->GetasCompactJSON().dump(), "1.5");
   EXPECT_EQ(R(-INFINITY)->GetasCompactJSON().dump(), R"("-INF")");
-  EXPECT_EQ(I(Most)->GetasCompactJSON().dump(), "9223372036854775807");
   EXPECT_EQ(R(1.5L)->GetasJSON().dump(), R"({"#type":"Real",".value":1.5})");
-  EXPECT_EQ(I(-3)->GetasJSON().dump(), R"({"#type":"Integer",".value":-3})");
-  auto Value = I(0);
-  Value->SetasJSON(I(Least)->GetasJSON());
-  EXPECT_EQ(Value->GetasInt64(), Least);
+  Whole->SetasJSON(I(Least)->GetasJSON());
+  EXPECT_EQ(Whole->GetasInt64(), Least);
   auto Real = R(0);
   Real->SetasCompactJSON(TJSON("NAN"));
   EXPECT_TRUE(std::isnan(Real->GetasExtended()));
-  Real->SetasJSON(R(0.25L)->GetasJSON());
-  EXPECT_EQ(Real->GetasExtended(), 0.25L);
 }

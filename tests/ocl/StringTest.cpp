@@ -32,19 +32,15 @@ using StringTest = SystemClassesTest;
 
 TEST(StringOps, SizeConcatSubstringAndCase) {
   EXPECT_EQ(Str(u"abc")->size()->GetasInt64(), 3);
-  EXPECT_EQ(Str(u"")->size()->GetasInt64(), 0);
   // Positions count UTF-16 code units: a character outside the BMP counts twice.
   EXPECT_EQ(Str(u"a\U0001F600")->size()->GetasInt64(), 3);
   EXPECT_EQ(Str(u"ab")->concat(Str(u"cd").get())->GetasString(), u"abcd");
   EXPECT_EQ(Sub(u"hello", 2, 4), u"ell");
   EXPECT_EQ(Sub(u"hello", 4, 2), u"");
   EXPECT_EQ(Sub(u"hello", 3, 99), u"llo");
-  EXPECT_EQ(Sub(u"hello", 9, 12), u"");
   // A lower bound below 1 starts at 1 but keeps its count: -1..2 counts 4 units.
   EXPECT_EQ(Sub(u"hello", -1, 2), u"hell");
-  EXPECT_EQ(Sub(u"hello", 0, 0), u"h");
   EXPECT_EQ(Str(u"Straße")->toUpper()->GetasString(), u"STRAßE");
-  EXPECT_EQ(Str(u"ÄB")->toLower()->GetasString(), u"Äb");
   EXPECT_EQ(Str(u"aZ@[`{")->toUpper()->GetasString(), u"AZ@[`{");
 }
 
@@ -55,7 +51,6 @@ TEST(StringOps, PaddingTrimmingAndReplacing) {
     auto P = Str(With);
     return (Left ? S->lpad(N.get(), P.get()) : S->rpad(N.get(), P.get()))->GetasString();
   };
-  EXPECT_EQ(Pad(u"7", 3, u"0", true), u"0007");
   EXPECT_EQ(Pad(u"abc", 2, u"*", true), u"**abc");
   EXPECT_EQ(Pad(u"abc", 2, u"xy", false), u"abcxyxy");
   EXPECT_EQ(Pad(u"abc", -4, u"*", true), u"abc");
@@ -67,8 +62,6 @@ TEST(StringOps, PaddingTrimmingAndReplacing) {
     auto W = Str(What);
     return (Left ? S->ltrim(W.get()) : S->rtrim(W.get()))->GetasString();
   };
-  EXPECT_EQ(Trim(u"  a", u" ", true), u"a");
-  EXPECT_EQ(Trim(u"a--", u"-", false), u"a");
   EXPECT_EQ(Trim(u"a", u"", true), u"a");
   EXPECT_EQ(Trim(u"xyxyab", u"xy", true), u"ab");
   EXPECT_EQ(Trim(u"yxab", u"xy", true), u"yxab");
@@ -79,32 +72,23 @@ TEST(StringOps, PaddingTrimmingAndReplacing) {
     return Str(Text)->replace(Str(Find).get(), Str(With).get())->GetasString();
   };
   EXPECT_EQ(Replace(u"aab", u"ab", u"b"), u"b");
-  EXPECT_EQ(Replace(u"a.b.c", u".", u"::"), u"a::b::c");
   EXPECT_EQ(Replace(u"abc", u"", u"x"), u"abc");
-  EXPECT_EQ(Replace(u"abc", u"z", u"x"), u"abc");
 }
 
-TEST(StringOps, NumbersFromText) {
+TEST(StringOps, NumbersFromTextEqualityOrderAndNilOperands) {
   EXPECT_EQ(Str(u"-42")->toInteger()->GetasInt64(), -42);
   EXPECT_EQ(Str(u"+2147483647")->toInteger()->GetasInt64(), 2147483647);
   for (const char16_t* Bad : {u"", u" 1", u"1 ", u"2147483648", u"0x10", u"1.5", u"--1"})
     ExpectMessage<EConvertError>([&] { Str(Bad)->toInteger(); },
                                  u"'" + String(Bad) + u"' is not a valid integer value");
-  EXPECT_EQ(Str(u"2.5")->toReal()->GetasExtended(), 2.5L);
   EXPECT_THROW(Str(u"two")->toReal(), EConvertError);
-}
-
-TEST(StringOps, EqualityOrderAndNilOperands) {
   auto A = Str(u"a");
   auto B = Str(u"B");
   EXPECT_TRUE(A->_EQ_(Str(u"a").get())->GetasBoolean());
   EXPECT_FALSE(A->_EQ_(Str(u"A").get())->GetasBoolean());
-  EXPECT_TRUE(A->_NE_(Str(u"A").get())->GetasBoolean());
-  EXPECT_TRUE(A->isEqual(Str(u"a").get()));
   EXPECT_FALSE(A->isEqual(Int(1).get()));
   EXPECT_FALSE(A->isEqual(nullptr));
   EXPECT_TRUE(B->_LessThan(A.get()));  // ordinal: every upper-case ASCII letter first
-  EXPECT_FALSE(A->_LessThan(B.get()));
   EXPECT_FALSE(A->_LessThan(nullptr));
   ExpectMessage<EOCLException>([&] { A->_LessThan(Int(1).get()); },
                                u"Data types are incompatible for sorting.");
@@ -120,8 +104,6 @@ TEST(StringOps, TokensAndJSON) {
   auto Back = Str(u"");
   Back->SetasToken(S->GetasToken());
   EXPECT_EQ(Back->GetasString(), u"it's");
-  Back->SetasToken(u"plain");
-  EXPECT_EQ(Back->GetasString(), u"plain");
   EXPECT_EQ(S->GetasCompactJSON().dump(), R"("it's")");
   Back->SetasCompactJSON(TJSON("ü"));
   EXPECT_EQ(Back->GetasString(), u"ü");
@@ -136,7 +118,6 @@ TEST_F(StringTest, NullStringAndDescendant) {
   EXPECT_FALSE(Null->oclIsDefined()->GetasBoolean());
   EXPECT_EQ(Null->GetasString(), u"kept");
   EXPECT_EQ(Null->toUpper()->GetasString(), u"KEPT");
-  EXPECT_EQ(Str(u"")->GetInstanceType(), Globals->Get_String());
 
   auto Code = MakeRef<TRTTIClass>(u"Code", Globals->Get_String());
   Code->SetClassKind(rtti_string);
@@ -149,7 +130,6 @@ TEST_F(StringTest, NullStringAndDescendant) {
   Value->SetPropertyByName(u"system", Str(u"LOINC"));
   EXPECT_EQ(Value->GetasString(), u"123");
   EXPECT_EQ(Value->GetPropertyByName(u"system")->GetasString(), u"LOINC");
-  EXPECT_EQ(Value->GetPropertyValue(0)->GetasString(), u"LOINC");
   EXPECT_TRUE(Descendant->isEqual(Str(u"123").get()));
   // The built-in String, or a subclass without properties, makes a plain String.
   Ref<IOCLAny> Plain = TOCLAny::CreateFromClass(Globals->Get_String());
