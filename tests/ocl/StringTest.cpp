@@ -133,5 +133,6 @@ TEST_F(StringTest, NullStringAndDescendant) {
   EXPECT_TRUE(Descendant->isEqual(Str(u"123").get()));
   // The built-in String, or a subclass without properties, makes a plain String.
   Ref<IOCLAny> Plain = TOCLAny::CreateFromClass(Globals->Get_String());
-  EXPECT_EQ(typeid(*Plain), typeid(TOCLString));
+  const IOCLAny& PlainValue = *Plain;
+  EXPECT_EQ(typeid(PlainValue), typeid(TOCLString));
 }
