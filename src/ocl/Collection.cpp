@@ -59,7 +59,10 @@ Ref<IFastIterator> TOCLCollection::Walk() const {
 }
 
 bool TOCLCollection::AnyElement(const std::function<bool(const Ref<IOCLAny>&)>& Visit) const {
-  if (const TElements* Own = Held()) return std::ranges::any_of(Own->Items(), Visit);
+  if (const TElements* Own = Held()) {
+    TElementIndex::TItems Items = Own->Items();
+    return std::any_of(Items.begin(), Items.end(), Visit);
+  }
   for (Ref<IFastIterator> It = Walk(); !It->Advance();)
     if (Visit(It->CurrentElement())) return true;
   return false;
