@@ -39,10 +39,8 @@ Ref<TOCLCollection> TOCLCollection::Clone() const {
 
 Ref<TOCLCollection> TOCLCollection::Copy() const {
   Ref<TOCLCollection> Result = Clone();
-  // Held elements copy with their index at once, without hashing them again.
-  if (HeldItems() && Result->GetInMemory() && Result->TOCLMemInstance::GetCount() == 0) {
-    Result->Items() = Items();
-    Result->FIndex = FIndex;
+  if (Held() && Result->GetInMemory() && Result->FElements.Count() == 0) {
+    Result->FElements = FElements;
   } else {
     Result->AddAll(const_cast<TOCLCollection*>(this));
   }
@@ -56,16 +54,15 @@ Ref<TOCLCollection> TOCLCollection::Without(IOCLAny* e) const {
   return Result;
 }
 
-const std::vector<Ref<IOCLAny>>* TOCLCollection::HeldItems() const {
-  return GetInMemory() ? &Items() : nullptr;
-}
-
 Ref<IFastIterator> TOCLCollection::Walk() const {
   return const_cast<TOCLCollection*>(this)->FastIterator();
 }
 
 bool TOCLCollection::AnyElement(const std::function<bool(const Ref<IOCLAny>&)>& Visit) const {
-  if (const auto* Held = HeldItems()) return std::any_of(Held->begin(), Held->end(), Visit);
+  if (const TElements* Own = Held()) {
+    TElementIndex::TItems Items = Own->Items();
+    return std::any_of(Items.begin(), Items.end(), Visit);
+  }
   for (Ref<IFastIterator> It = Walk(); !It->Advance();)
     if (Visit(It->CurrentElement())) return true;
   return false;
@@ -98,6 +95,28 @@ String TOCLCollection::ListText(const String& Opening) const {
   return Result + u"}";
 }
 
+TJSON TOCLCollection::ElementsJSON(bool Compact) const {
+  TJSON Result = TJSON::array();
+  AnyElement([&](const Ref<IOCLAny>& Element) {
+    if (!Element)
+      Result.push_back(nullptr);
+    else
+      Result.push_back(Compact ? Element->GetasCompactJSON() : Element->GetasJSON());
+    return false;
+  });
+  return Result;
+}
+
+TJSON TOCLCollection::GetasJSON() const {
+  TJSON Result = TOCLAny::GetasJSON();
+  Result[".value"] = ElementsJSON(false);
+  return Result;
+}
+
+TJSON TOCLCollection::GetasCompactJSON() const {
+  return ElementsJSON(true);
+}
+
 String TOCLCollection::GetasString() const {
   return u"(Collection:" + HostClassName() + u")";
 }
@@ -107,31 +126,19 @@ bool TOCLCollection::isEqual(IOCLAny*) const {
 }
 
 void TOCLCollection::Add(const Ref<IOCLAny>& Value) {
-  FIndex.Insert(Value.get(), TOCLMemInstance::GetCount());
-  Items().push_back(Value);
+  FElements.Append(Value);
 }
 
 void TOCLCollection::SetCount(int Value) {
-  TOCLMemInstance::SetCount(Value);
-  Reindex();
+  FElements.Resize(Value);
 }
 
 void TOCLCollection::SetItems(int Index, const Ref<IOCLAny>& Value) {
-  if (Index < 0) return;
-  if (Index < TOCLMemInstance::GetCount())
-    FIndex.Erase(TOCLMemInstance::GetItems(Index).get(), Index);
-  TOCLMemInstance::SetItems(Index, Value);
-  FIndex.Insert(Value.get(), Index);
-}
-
-void TOCLCollection::Reindex() {
-  FIndex.Clear();
-  for (int i = 0; i < TOCLMemInstance::GetCount(); ++i)
-    FIndex.Insert(Items()[static_cast<std::size_t>(i)].get(), i);
+  FElements.Store(Index, Value);
 }
 
 int TOCLCollection::GetCount() const {
-  if (GetInMemory()) return TOCLMemInstance::GetCount();
+  if (GetInMemory()) return FElements.Count();
   int Count = 0;
   for (Ref<IFastIterator> It = Walk(); !It->Advance();)
     ++Count;
@@ -139,7 +146,7 @@ int TOCLCollection::GetCount() const {
 }
 
 Ref<IOCLAny> TOCLCollection::GetItems(int Index) const {
-  if (GetInMemory()) return TOCLMemInstance::GetItems(Index);
+  if (GetInMemory()) return FElements.At(Index);
   Ref<IFastIterator> It = Walk();
   for (int i = 0; i <= Index; ++i)
     if (It->Advance()) break;
@@ -159,7 +166,7 @@ Ref<IOCLIterator> TOCLCollection::Iterator(IOCLBoolean*) {
 }
 
 bool TOCLCollection::Exists(IOCLAny* o) const {
-  if (const auto* Held = HeldItems()) return FIndex.Contains(*Held, o);
+  if (GetInMemory()) return FElements.Contains(o);
   return AnyElement([o](const Ref<IOCLAny>& Element) { return Element && Element->isEqual(o); });
 }
 
@@ -183,7 +190,7 @@ Ref<IOCLBoolean> TOCLCollection::excludesAll(IOCLCollection* c) const {
 }
 
 Ref<IOCLInteger> TOCLCollection::_count_(IOCLAny* o) const {
-  if (const auto* Held = HeldItems()) return MakeRef<TOCLInteger>(FIndex.CountOf(*Held, o));
+  if (GetInMemory()) return MakeRef<TOCLInteger>(FElements.CountOf(o));
   std::int64_t Count = 0;
   AnyElement([&](const Ref<IOCLAny>& Element) {
     if (Element && Element->isEqual(o)) ++Count;
@@ -193,12 +200,12 @@ Ref<IOCLInteger> TOCLCollection::_count_(IOCLAny* o) const {
 }
 
 Ref<IOCLBoolean> TOCLCollection::isEmpty() const {
-  if (GetInMemory()) return TOCLBoolean::BooleanValue(TOCLMemInstance::GetCount() == 0);
+  if (GetInMemory()) return TOCLBoolean::BooleanValue(FElements.Count() == 0);
   return TOCLBoolean::BooleanValue(Walk()->AtEnd());
 }
 
 Ref<IOCLBoolean> TOCLCollection::notEmpty() const {
-  if (GetInMemory()) return TOCLBoolean::BooleanValue(TOCLMemInstance::GetCount() >= 1);
+  if (GetInMemory()) return TOCLBoolean::BooleanValue(FElements.Count() >= 1);
   return TOCLBoolean::BooleanValue(!Walk()->AtEnd());
 }
 
@@ -223,11 +230,9 @@ Ref<IOCLSequence> TOCLCollection::sort() const {
 }
 
 void TOCLCollection::InternalSort() {
-  std::stable_sort(Items().begin(), Items().end(),
-                   [](const Ref<IOCLAny>& Left, const Ref<IOCLAny>& Right) {
-                     return Left && Left->_LessThan(Right.get());
-                   });
-  Reindex();
+  FElements.Sort([](const Ref<IOCLAny>& Left, const Ref<IOCLAny>& Right) {
+    return Left && Left->_LessThan(Right.get());
+  });
 }
 
 Ref<IOCLAny> TOCLCollection::sum() const {

@@ -92,116 +92,143 @@ TQueryKeys QueryKeys(IOCLAny* Value) {
 
 constexpr int EmptySlot = -1;
 constexpr int ErasedSlot = -2;
+constexpr auto Relaxed = std::memory_order_relaxed;
 
 // Calls Visit with the position of each slot holding Key, until Visit answers true.
 template <class F>
-bool ForEachSlot(const std::vector<TElementIndex::TSlot>& Slots, std::size_t Key, F Visit) {
-  if (Slots.empty()) return false;
-  std::size_t Mask = Slots.size() - 1;
-  for (std::size_t i = Key & Mask; Slots[i].Position != EmptySlot; i = (i + 1) & Mask)
-    if (Slots[i].Position >= 0 && Slots[i].Key == Key && Visit(Slots[i].Position)) return true;
-  return false;
+bool ForEachSlot(const TElementIndex::TSlot* Slots, std::size_t Size, std::size_t Key, F Visit) {
+  std::size_t Mask = Size - 1;
+  for (std::size_t i = Key & Mask;; i = (i + 1) & Mask) {
+    int Position = Slots[i].Position.load(Relaxed);
+    if (Position == EmptySlot) return false;
+    if (Position >= 0 && Slots[i].Key.load(Relaxed) == Key && Visit(Position)) return true;
+  }
 }
 
-// Calls Visit with each position whose element equals Value until Visit answers true.
-template <class F>
-void ForEachMatch(const std::vector<TElementIndex::TSlot>& Slots, const std::vector<int>& Scanned,
-                  const TElementIndex::TItems& Items, IOCLAny* Value, F Visit) {
-  auto Matches = [&](int Position) {
-    return Items[static_cast<std::size_t>(Position)]->isEqual(Value);
-  };
-  if (Value) {
-    TQueryKeys Query = QueryKeys(Value);
-    for (std::size_t k = 0; k < Query.Count; ++k)
-      if (ForEachSlot(Slots, Query.Keys[k], [&](int P) { return Matches(P) && Visit(P); })) return;
-  }
-  for (int Position : Scanned)
-    if (Matches(Position) && Visit(Position)) return;
+std::size_t TableSize(std::size_t Capacity) {
+  std::size_t Size = 16;
+  while (Size < Capacity * 2)
+    Size *= 2;
+  return Size;
 }
 
 }  // namespace
 
+TElementIndex::TElementIndex(const TElementIndex* From, int Count, std::size_t Capacity)
+    : FSize(TableSize(Capacity)),
+      FSlots(new TSlot[FSize]),
+      FCapacity(Capacity),
+      FScanned(new int[Capacity]) {
+  if (!From) return;
+  // Keys are copied, not computed again from the elements.
+  for (std::size_t i = 0; i < From->FSize; ++i) {
+    int Position = From->FSlots[i].Position.load(Relaxed);
+    if (Position >= 0 && Position < Count) InsertKey(From->FSlots[i].Key.load(Relaxed), Position);
+  }
+  std::size_t Scanned = From->FScannedCount.load(std::memory_order_acquire);
+  std::size_t Kept = 0;
+  for (std::size_t i = 0; i < Scanned; ++i)
+    if (From->FScanned[i] < Count) FScanned[Kept++] = From->FScanned[i];
+  FScannedCount.store(Kept, Relaxed);
+}
+
+// Positions past the end of Items are later versions' elements: every question skips them.
+template <class F>
+void TElementIndex::ForEachMatch(TItems Items, IOCLAny* Value, F Visit) const {
+  auto Matches = [&](int Position) {
+    return static_cast<std::size_t>(Position) < Items.size() &&
+           Items[static_cast<std::size_t>(Position)]->isEqual(Value);
+  };
+  if (Value) {
+    TQueryKeys Query = QueryKeys(Value);
+    for (std::size_t k = 0; k < Query.Count; ++k)
+      if (ForEachSlot(FSlots.get(), FSize, Query.Keys[k],
+                      [&](int P) { return Matches(P) && Visit(P); }))
+        return;
+  }
+  std::size_t Scanned = FScannedCount.load(std::memory_order_acquire);
+  for (std::size_t i = 0; i < Scanned; ++i)
+    if (Matches(FScanned[i]) && Visit(FScanned[i])) return;
+}
+
+bool TElementIndex::HasRoom() const {
+  return (FUsed + 1) * 2 <= FSize && FScannedCount.load(Relaxed) < FCapacity;
+}
+
 void TElementIndex::Insert(IOCLAny* Element, int Position) {
   if (!Element) return;  // nil equals nothing
   std::size_t Key = 0;
-  if (ElementKey(Element, Key))
+  if (ElementKey(Element, Key)) {
     InsertKey(Key, Position);
-  else
-    FScanned.push_back(Position);
+    return;
+  }
+  std::size_t Scanned = FScannedCount.load(Relaxed);
+  FScanned[Scanned] = Position;
+  FScannedCount.store(Scanned + 1, std::memory_order_release);
 }
 
 void TElementIndex::InsertKey(std::size_t Key, int Position) {
-  if ((FUsed + 1) * 2 > FSlots.size()) Grow();
-  std::size_t Mask = FSlots.size() - 1;
+  std::size_t Mask = FSize - 1;
   std::size_t i = Key & Mask;
-  while (FSlots[i].Position >= 0)
+  while (FSlots[i].Position.load(Relaxed) >= 0)
     i = (i + 1) & Mask;
-  if (FSlots[i].Position == EmptySlot) ++FUsed;
-  FSlots[i] = TSlot{Key, Position};
-}
-
-void TElementIndex::Grow() {
-  std::vector<TSlot> Old = std::move(FSlots);
-  // Sized for the live slots only: erased ones are dropped here.
-  std::size_t Live = 0;
-  for (const TSlot& Slot : Old)
-    Live += Slot.Position >= 0;
-  std::size_t Size = 16;
-  while (Size < (Live + 1) * 4)
-    Size *= 2;
-  FSlots.assign(Size, TSlot{});
-  FUsed = 0;
-  for (const TSlot& Slot : Old)
-    if (Slot.Position >= 0) InsertKey(Slot.Key, Slot.Position);
+  if (FSlots[i].Position.load(Relaxed) == EmptySlot) ++FUsed;
+  // The key first: a reader that sees the position reads it with its key.
+  FSlots[i].Key.store(Key, Relaxed);
+  FSlots[i].Position.store(Position, std::memory_order_release);
 }
 
 void TElementIndex::Erase(IOCLAny* Element, int Position) {
   if (!Element) return;
   std::size_t Key = 0;
   if (!ElementKey(Element, Key)) {
-    std::erase(FScanned, Position);
+    int* End = FScanned.get() + FScannedCount.load(Relaxed);
+    FScannedCount.store(
+        static_cast<std::size_t>(std::remove(FScanned.get(), End, Position) - FScanned.get()),
+        Relaxed);
     return;
   }
-  if (FSlots.empty()) return;
-  std::size_t Mask = FSlots.size() - 1;
-  for (std::size_t i = Key & Mask; FSlots[i].Position != EmptySlot; i = (i + 1) & Mask) {
-    if (FSlots[i].Key == Key && FSlots[i].Position == Position) {
-      FSlots[i].Position = ErasedSlot;  // keeps the probe chains behind it intact
+  std::size_t Mask = FSize - 1;
+  for (std::size_t i = Key & Mask; FSlots[i].Position.load(Relaxed) != EmptySlot;
+       i = (i + 1) & Mask) {
+    if (FSlots[i].Key.load(Relaxed) == Key && FSlots[i].Position.load(Relaxed) == Position) {
+      FSlots[i].Position.store(ErasedSlot, Relaxed);  // keeps the probe chains behind it intact
       return;
     }
   }
 }
 
 void TElementIndex::Clear() {
-  FSlots.clear();
+  for (std::size_t i = 0; i < FSize; ++i)
+    FSlots[i].Position.store(EmptySlot, Relaxed);
   FUsed = 0;
-  FScanned.clear();
+  FScannedCount.store(0, Relaxed);
 }
 
-bool TElementIndex::Contains(const TItems& Items, IOCLAny* Value) const {
+bool TElementIndex::Contains(TItems Items, IOCLAny* Value) const {
   bool Found = false;
-  ForEachMatch(FSlots, FScanned, Items, Value, [&](int) { return Found = true; });
+  ForEachMatch(Items, Value, [&](int) { return Found = true; });
   return Found;
 }
 
-int TElementIndex::CountOf(const TItems& Items, IOCLAny* Value) const {
+int TElementIndex::CountOf(TItems Items, IOCLAny* Value) const {
   int Count = 0;
-  ForEachMatch(FSlots, FScanned, Items, Value, [&](int) { return ++Count, false; });
+  ForEachMatch(Items, Value, [&](int) { return ++Count, false; });
   return Count;
 }
 
-int TElementIndex::FirstOf(const TItems& Items, IOCLAny* Value) const {
+int TElementIndex::FirstOf(TItems Items, IOCLAny* Value) const {
   int First = -1;
-  ForEachMatch(FSlots, FScanned, Items, Value, [&](int Position) {
+  ForEachMatch(Items, Value, [&](int Position) {
     if (First < 0 || Position < First) First = Position;
     return false;
   });
   return First;
 }
 
-std::vector<int> TElementIndex::Matches(const TItems& Items, IOCLAny* Value) const {
+std::vector<int> TElementIndex::Matches(TItems Items, IOCLAny* Value) const {
   std::vector<int> Result;
-  ForEachMatch(FSlots, FScanned, Items, Value, [&](int Position) {
+  ForEachMatch(Items, Value, [&](int Position) {
     Result.push_back(Position);
     return false;
   });

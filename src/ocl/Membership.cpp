@@ -4,14 +4,12 @@ namespace gello {
 
 TMembership::TMembership(IOCLCollection* c) {
   auto* Own = dynamic_cast<TOCLCollection*>(c);
-  if (Own && Own->HeldItems()) {
-    FItems = Own->HeldItems();
-    FIndex = &Own->HeldIndex();
+  if (Own && Own->Held()) {
+    FElements = *Own->Held();
     return;
   }
   AnyElementOf(c, [this](const Ref<IOCLAny>& Element) {
-    FOwnIndex.Insert(Element.get(), static_cast<int>(FOwnItems.size()));
-    FOwnItems.push_back(Element);
+    FElements.Append(Element);
     return false;
   });
 }

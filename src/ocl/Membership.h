@@ -11,15 +11,12 @@ class TMembership {
   TMembership(const TMembership&) = delete;
   TMembership& operator=(const TMembership&) = delete;
 
-  bool Contains(IOCLAny* o) const { return FIndex->Contains(*FItems, o); }
+  bool Contains(IOCLAny* o) const { return FElements.Contains(o); }
   /// Positions of the elements equal to o.
-  std::vector<int> Matches(IOCLAny* o) const { return FIndex->Matches(*FItems, o); }
+  std::vector<int> Matches(IOCLAny* o) const { return FElements.Matches(o); }
 
  private:
-  TElementIndex::TItems FOwnItems;
-  TElementIndex FOwnIndex;
-  const TElementIndex::TItems* FItems = &FOwnItems;
-  const TElementIndex* FIndex = &FOwnIndex;
+  TElements FElements;
 };
 
 }  // namespace gello

@@ -95,7 +95,7 @@ Ref<IOCLAny> TOCLSequence::first() const {
 }
 
 Ref<IOCLAny> TOCLSequence::last() const {
-  if (const auto* Held = HeldItems()) return Held->empty() ? nullptr : Held->back();
+  if (const TElements* Own = Held()) return Own->At(Own->Count() - 1);
   Ref<IOCLAny> Last;
   AnyElement([&](const Ref<IOCLAny>& Element) {
     Last = Element;
@@ -113,8 +113,7 @@ Ref<IOCLSequence> TOCLSequence::excluding(IOCLAny* e) const {
 }
 
 Ref<IOCLInteger> TOCLSequence::indexOf(IOCLAny* o) const {
-  if (const auto* Held = HeldItems())
-    return MakeRef<TOCLInteger>(HeldIndex().FirstOf(*Held, o) + 1);
+  if (const TElements* Own = Held()) return MakeRef<TOCLInteger>(Own->FirstOf(o) + 1);
   std::int64_t Position = 0;
   bool Found = AnyElement([&](const Ref<IOCLAny>& Element) {
     ++Position;

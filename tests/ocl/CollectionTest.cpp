@@ -100,6 +100,65 @@ TEST_F(CollectionTest, MembershipStaysRightThroughManyReplacements) {
   EXPECT_EQ(Numbers->indexOf(Int(3001).get())->GetasInt64(), 4);
 }
 
+TEST_F(CollectionTest, OlderVersionsStayUnchangedWhenSuccessorsAppend) {
+  // Each including appends to the store its receiver shares with every older version.
+  std::vector<Ref<IOCLSet>> Versions{MakeRef<TOCLSet>()};
+  for (int i = 0; i < 100; ++i)
+    Versions.push_back(Versions.back()->including(Int(i).get()));
+  for (int n = 0; n <= 100; n += 25) {
+    EXPECT_EQ(Versions[n]->GetCount(), n);
+    EXPECT_FALSE(Versions[n]->includes(Int(n).get())->GetasBoolean());
+    EXPECT_EQ(Versions[n]->includes(Int(n - 1).get())->GetasBoolean(), n > 0);
+  }
+  // A second successor of a version takes the position its first successor already filled.
+  Ref<IOCLSet> Branch = Versions[2]->including(Int(-1).get())->including(Int(-2).get());
+  EXPECT_EQ(Text(Branch), u"Set{0,1,-1,-2}");
+  EXPECT_EQ(Text(Versions[3]), u"Set{0,1,2}");
+  EXPECT_FALSE(Versions[3]->includes(Int(-1).get())->GetasBoolean());
+  EXPECT_FALSE(Branch->includes(Int(2).get())->GetasBoolean());
+  // Unhashed elements, which are scanned, stay with their version too.
+  auto Odd = MakeRef<TOCLAny>();
+  Ref<IOCLSet> WithOdd = Versions[100]->including(Odd.get());
+  EXPECT_TRUE(WithOdd->includes(Odd.get())->GetasBoolean());
+  EXPECT_FALSE(Versions[100]->includes(Odd.get())->GetasBoolean());
+
+  // Sequences and Bags share the same way; changing a successor in place copies it first.
+  auto Short = Seq({1, 2});
+  Ref<IOCLSequence> Longer = Short->append(Int(1).get());
+  EXPECT_EQ(Short->_count_(Int(1).get())->GetasInt64(), 1);
+  EXPECT_EQ(Longer->_count_(Int(1).get())->GetasInt64(), 2);
+  auto* Changed = dynamic_cast<TOCLCollection*>(Longer.get());
+  Changed->SetItems(0, Int(9));
+  Changed->InternalSort();
+  EXPECT_EQ(Text(Longer), u"Sequence{1,2,9}");
+  EXPECT_EQ(Text(Short), u"Sequence{1,2}");
+  EXPECT_EQ(Short->indexOf(Int(2).get())->GetasInt64(), 2);
+  Changed->SetCount(1);
+  EXPECT_EQ(Text(Short->including(Int(3).get())), u"Sequence{1,2,3}");
+  auto Few = BagOf({1});
+  Ref<IOCLBag> More = Few->including(Int(1).get());
+  EXPECT_EQ(Few->_count_(Int(1).get())->GetasInt64(), 1);
+  EXPECT_EQ(More->_count_(Int(1).get())->GetasInt64(), 2);
+}
+
+TEST_F(CollectionTest, JSONFormsListTheElements) {
+  auto Mixed = MakeRef<TOCLSequence>();
+  Mixed->Add(Int(1));
+  Mixed->Add(MakeRef<TOCLString>(u"a"));
+  Mixed->Add(nullptr);
+  Mixed->Add(SetOf({2}));
+  EXPECT_EQ(Mixed->GetasCompactJSON().dump(), R"([1,"a",null,[2]])");
+  EXPECT_EQ(Mixed->GetasJSON().dump(),
+            R"j({"#type":"Sequence(T)",".value":[{"#type":"Integer",".value":1},)j"
+            R"j({"#type":"String",".value":"a"},null,)j"
+            R"j({"#type":"Set(T)",".value":[{"#type":"Integer",".value":2}]}]})j");
+  EXPECT_EQ(BagOf({1, 1})->GetasJSON().dump(),
+            R"j({"#type":"Bag(T)",".value":[{"#type":"Integer",".value":1},)j"
+            R"j({"#type":"Integer",".value":1}]})j");
+  EXPECT_EQ(MakeRef<TCounting>(3)->GetasCompactJSON().dump(), "[1,2,3]");
+  EXPECT_EQ(Seq({})->GetasCompactJSON().dump(), "[]");
+}
+
 TEST_F(CollectionTest, SortSumAndPlaceholders) {
   EXPECT_EQ(Text(SetOf({3, 1, 2})->sort()), u"Sequence{1,2,3}");
   auto Words = MakeRef<TOCLSequence>();

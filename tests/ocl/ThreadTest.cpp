@@ -76,3 +76,30 @@ TEST(ThreadTest, ASharedSetAnswersMembershipAndCopiesFromManyThreads) {
   EXPECT_EQ(Wrong, 0);
   EXPECT_EQ(Shared->GetCount(), 1000);
 }
+
+TEST(ThreadTest, OlderVersionsAreReadWhileTheNewestAppendsInPlace) {
+  // One thread builds a Set by including, element after element; the others read the versions
+  // already made while it appends to the store they share.
+  constexpr int Count = Rounds;
+  std::vector<Ref<IOCLSet>> Versions(Count);
+  std::atomic<int> Published{0};
+  std::thread Builder([&] {
+    Ref<IOCLSet> Last = MakeRef<TOCLSet>();
+    for (int i = 0; i < Count; ++i) {
+      Last = Last->including(MakeRef<TOCLInteger>(i).get());
+      Versions[static_cast<std::size_t>(i)] = Last;
+      Published.store(i + 1, std::memory_order_release);
+    }
+  });
+  int Wrong = RunTogether([&](int i) {
+    int Seen = Published.load(std::memory_order_acquire);
+    if (Seen == 0) return true;
+    int k = i % Seen;
+    const Ref<IOCLSet>& Version = Versions[static_cast<std::size_t>(k)];
+    return Version->GetCount() == k + 1 && Version->Exists(MakeRef<TOCLInteger>(k).get()) &&
+           !Version->Exists(MakeRef<TOCLInteger>(k + 1).get());
+  });
+  Builder.join();
+  EXPECT_EQ(Wrong, 0);
+  EXPECT_EQ(Versions.back()->GetCount(), Count);
+}

@@ -2,7 +2,7 @@
 // The common base of Sequence, Set and Bag: elements held in memory, or drawn from external data
 // through a fast iterator that a subclass supplies.
 #include <functional>
-#include "gello/ocl/ElementIndex.h"
+#include "gello/ocl/Elements.h"
 #include "gello/ocl/MemInstance.h"
 
 namespace gello {
@@ -21,14 +21,17 @@ class TOCLCollection : public TOCLMemInstance, public virtual IOCLCollection {
   virtual Ref<TOCLCollection> Clone() const;
   /// Calls Visit with every element in order, until it answers true; answers whether it did.
   bool AnyElement(const std::function<bool(const Ref<IOCLAny>&)>& Visit) const;
-  /// The held elements and their index; nil for external data.
-  const std::vector<Ref<IOCLAny>>* HeldItems() const;
-  const TElementIndex& HeldIndex() const { return FIndex; }
+  /// The held elements; nil for external data.
+  const TElements* Held() const { return GetInMemory() ? &FElements : nullptr; }
   /// Appends every element of c (a nil c has none).
   void AddAll(IOCLCollection* c);
   /// Appends the elements of c for which Keep answers true.
   void AddWhere(IOCLCollection* c, const std::function<bool(const Ref<IOCLAny>&)>& Keep);
 
+  /// The Any object with ".value": the elements' JSON in order, null for a nil element.
+  TJSON GetasJSON() const override;
+  /// The elements' compact JSON in order, as a bare array.
+  TJSON GetasCompactJSON() const override;
   String GetasString() const override;
   /// Raises: collections of the base kind cannot be compared.
   bool isEqual(IOCLAny* Other) const override;
@@ -62,7 +65,7 @@ class TOCLCollection : public TOCLMemInstance, public virtual IOCLCollection {
   void InternalSort() override;
 
  protected:
-  /// Clone with every element of the receiver.
+  /// Clone with every element of the receiver; held elements are shared, not copied.
   Ref<TOCLCollection> Copy() const;
   /// Clone with the receiver's elements that are not equal to e (nil elements stay).
   Ref<TOCLCollection> Without(IOCLAny* e) const;
@@ -72,9 +75,9 @@ class TOCLCollection : public TOCLMemInstance, public virtual IOCLCollection {
   Ref<IFastIterator> Walk() const;
 
  private:
-  void Reindex();
+  TJSON ElementsJSON(bool Compact) const;
 
-  TElementIndex FIndex;
+  TElements FElements;
 };
 
 /// Calls Visit with every element of c in order until it answers true (a nil c has none).
