@@ -11,6 +11,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "gello/registry/CachedCast.h"
 #include "gello/registry/OCLIntfTables.h"
 
 namespace gello {
@@ -165,7 +166,7 @@ T ArgAs(IOCLAny* Arg) {
   if constexpr (std::is_same_v<P, IOCLAny>)
     return Arg;
   else if constexpr (std::is_base_of_v<IOCLAny, P>)
-    return dynamic_cast<T>(Arg);
+    return CachedCast<P>(Arg);
   else
     return dynamic_cast<T>(NativeTarget(Arg));
 }
@@ -173,7 +174,7 @@ T ArgAs(IOCLAny* Arg) {
 // Self, or the host object of a native-interface value.
 template <class I>
 I* SelfAs(RefCounted* Self) {
-  I* Target = dynamic_cast<I*>(Self);
+  I* Target = CachedCast<I>(Self);
   if (!Target) Target = dynamic_cast<I*>(NativeTarget(dynamic_cast<IOCLAny*>(Self)));
   if (!Target) RaiseUnsupportedSelf(TIntfName<I>::Text);
   return Target;
