@@ -1,3 +1,6 @@
+#include <cstdlib>
+#include <utility>
+
 #include "gello/foundation/Exceptions.h"
 #include "gello/ocl/Boolean.h"
 #include "gello/ocl/SystemClasses.h"
@@ -9,16 +12,19 @@ namespace gello {
 
 namespace {
 
-// The registry lives here; at process end a registry still alive is dumped and freed.
-struct TRegistryHolder {
-  std::unique_ptr<TOCLClassRegistry> Registry;
-  ~TRegistryHolder() { FinalizeOCLRegistry(); }
-};
+// The registry. At process end a registry still alive is dumped and freed: the handler is
+// registered once a registry has been built, after every static that building it touched, so
+// it runs before their destructors.
+constinit TOCLClassRegistry* Current = nullptr;
 
-// Made after the System handles and the shared Booleans, so it is destroyed before them.
-TRegistryHolder& Holder() {
-  static TRegistryHolder Registry;
-  return Registry;
+void FinalizeAtExit() {
+  FinalizeOCLRegistry();
+}
+
+void Install(std::unique_ptr<TOCLClassRegistry> Registry) {
+  static const bool Registered = std::atexit(&FinalizeAtExit) == 0;
+  (void)Registered;
+  delete std::exchange(Current, Registry.release());
 }
 
 struct TSystemInterface {
@@ -67,17 +73,15 @@ const std::pair<const char16_t*, const TIntfInfo&> ForwardInterfaces[] = {
 }  // namespace
 
 TOCLClassRegistry& OCLRegistry() {
-  if (!Holder().Registry)
-    throw Exception(u"Internal Error: OCL Registry has not been initialized.");
-  return *Holder().Registry;
+  if (!Current) throw Exception(u"Internal Error: OCL Registry has not been initialized.");
+  return *Current;
 }
 
 void RegisterInterfaces() {
   OCLSystemClasses();
   TOCLBoolean::UndefinedBoolean();
-  Holder().Registry.reset();
-  Holder().Registry = std::make_unique<TOCLClassRegistry>();
-  TOCLClassRegistry& Registry = *Holder().Registry;
+  auto Made = std::make_unique<TOCLClassRegistry>();
+  TOCLClassRegistry& Registry = *Made;
   for (const auto& [Name, Intf] : ForwardInterfaces)
     Registry.AddIntf(Name, Intf);
   TOCLSystemClasses Classes;
@@ -85,6 +89,7 @@ void RegisterInterfaces() {
     Classes.*System.Handle = Registry.RegisterRTTIInterface(System.Name, System.Intf,
                                                             System.ElementIntf, &System.ImplClass);
   SetOCLSystemClasses(Classes);
+  Install(std::move(Made));
   // The shared Booleans: false, true, unknown and the undefined one.
   TOCLBoolean::BooleanValue(rtti_false);
   TOCLBoolean::BooleanValue(rtti_true);
@@ -105,7 +110,7 @@ void UnregisterAllInterfaces() {
 }
 
 void FinalizeOCLRegistry() {
-  std::unique_ptr<TOCLClassRegistry> Registry = std::move(Holder().Registry);
+  std::unique_ptr<TOCLClassRegistry> Registry(std::exchange(Current, nullptr));
   if (!Registry) return;
   Registry->Dump(true);
   ClearOCLSystemClasses();
