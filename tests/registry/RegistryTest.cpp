@@ -195,6 +195,7 @@ TEST_F(RegistryTest, BuildMethodsSkipsAccessorsAndTranslatesOperators) {
 
 TEST_F(RegistryTest, PackagesCountTheirImporters) {
   TOCLClassRegistry& Registry = OCLRegistry();
+  TLogCapture Log;
   Ref<IRTTIPackage> Lib = Registry.RegisterPackage(u"Lib", {u"System"});
   Ref<IRTTIPackage> App = Registry.RegisterPackage(u"App", {u"Lib"});
   EXPECT_EQ(Registry.RegisterPackage(u"App", {}), App);
@@ -206,7 +207,7 @@ TEST_F(RegistryTest, PackagesCountTheirImporters) {
   ExpectMessage<Exception>([&] { UnregisterInterfaces(); },
                            u"unable to unregister package System because it's usecount is > 0");
   Registry.RegisterHostInterface(u"Lib::Address", Info<IAddress>(), nullptr);
-  TLogCapture Log;
+  Log.Clear();
   Registry.UnregisterPackage(u"Nope");
   EXPECT_EQ(Log.Lines(),
             (std::vector<String>{u"Unregistering package Nope", u"package Nope not found."}));

@@ -8,6 +8,7 @@
 // as literals and must be one per parameter. Each entry carries its slot thunks.
 #include <algorithm>
 #include <cstddef>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -327,7 +328,7 @@ template <class I, class Parent, std::size_t N>
 consteval TIntfInfo DescribeIntf(const TIntfEntry (&Entries)[N]) {
   bool SeenProperty = false;
   for (const TIntfEntry& Entry : Entries) {
-    const bool Callable = !Entry.Params.empty() && Entry.Params[0].TypeRef == &TDescribed<I>::Info;
+    const bool Callable = !Entry.Params.empty() && std::string_view(Entry.Params[0].Name) == "Self";
     if (Callable && SeenProperty) throw "property entries must come after the methods";
     SeenProperty = SeenProperty || !Callable;
   }
