@@ -6,5 +6,7 @@ namespace gello::tool {
 
 /// "xml paths FILE": streams an XML file and prints each element's path.
 void AddXmlCommands(CLI::App& App);
+/// "registry [INTERFACE]": the class registry's dump, or an interface's slot listing.
+void AddRegistryCommands(CLI::App& App);
 
 }  // namespace gello::tool
