@@ -7,11 +7,11 @@ namespace gello {
 namespace {
 
 [[maybe_unused]] const bool Registered = [] {
-  RegisterRTTI({RTTIClassOf<TRTTIValue>(), RTTIClassOf<TRTTIStringLiteral>(),
-                RTTIClassOf<TRTTIIntegerLiteral>(), RTTIClassOf<TRTTIRealLiteral>(),
-                RTTIClassOf<TRTTIBooleanLiteral>(), RTTIClassOf<TRTTINullLiteral>(),
-                RTTIClassOf<TRTTIClassLiteral>(), RTTIClassOf<TRTTIEnumLiteral>(),
-                RTTIClassOf<TRTTIGeneric>()});
+  RegisterRTTI({RTTIClassOf<TRTTIValue>(), RTTIClassOf<TRTTITextLiteral>(),
+                RTTIClassOf<TRTTIStringLiteral>(), RTTIClassOf<TRTTIIntegerLiteral>(),
+                RTTIClassOf<TRTTIRealLiteral>(), RTTIClassOf<TRTTIBooleanLiteral>(),
+                RTTIClassOf<TRTTINullLiteral>(), RTTIClassOf<TRTTIClassLiteral>(),
+                RTTIClassOf<TRTTIEnumLiteral>(), RTTIClassOf<TRTTIGeneric>()});
   return true;
 }();
 

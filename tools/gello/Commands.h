@@ -7,4 +7,7 @@ namespace gello::tool {
 /// "xml paths FILE": streams an XML file and prints each element's path.
 void AddXmlCommands(CLI::App& App);
 
+/// "model info FILE" and "model convert IN OUT --to xml|json": native models.
+void AddModelCommands(CLI::App& App);
+
 }  // namespace gello::tool
