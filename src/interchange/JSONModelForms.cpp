@@ -1,6 +1,8 @@
-// The JSON parts of the model kinds. Kept asymmetries: "annotation" is read but not written, a
-// method's "value" is written but not read, and only packages carry their statements.
+// The JSON parts of the model kinds and the navigation nodes. Kept asymmetries: "annotation" is
+// read but not written, a method's "value" is written but not read, only packages carry their
+// statements, and a call or property reference reads back as a plain value.
 #include "KindForms.h"
+#include "gello/expr/Navigation.h"
 #include "gello/interchange/JSONForm.h"
 #include "gello/model/ElementList.h"
 
@@ -133,6 +135,23 @@ void SetLiteralJSON(IRTTIElement& Element, const TJSON& Value) {
   SetValueJSON(Element, Value);
   if (HasKey(Value, "value", TType::string))
     As<IRTTILiteral>(Element).SetasString(JSONText(Value, "value"));
+}
+
+void GetMethodCallJSON(IRTTIElement& Element, TJSON& Value) {
+  GetValueJSON(Element, Value);
+  auto& Call = As<TRTTIMethodCall>(Element);
+  if (Ref<IRTTIValue> ClassRef = Call.Getclassref()) {
+    Value["classref"] = GetasJSON(*ClassRef);
+    // Only a call with a receiver keeps its arguments in this form.
+    Ref<IRTTIElementList> Params = Call.Getparams();
+    Value["params"] = Params ? GetasJSON(*Params) : TJSON::array();
+  }
+}
+
+void GetPropertyRefJSON(IRTTIElement& Element, TJSON& Value) {
+  GetValueJSON(Element, Value);
+  if (Ref<IRTTIValue> ClassRef = As<TRTTIPropertyRef>(Element).Getclassref())
+    Value["classref"] = GetasJSON(*ClassRef);
 }
 
 }  // namespace gello::forms

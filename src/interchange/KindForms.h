@@ -16,6 +16,7 @@ namespace gello::forms {
 class TReading {
  public:
   explicit TReading(IRTTIGlobals* Globals) : FGlobals(Globals) {}
+  IRTTIGlobals* Globals() const { return FGlobals; }
   /// The class a type attribute names: found, or added as a placeholder, through the global
   /// scope (a bare placeholder without one); nil for an empty name.
   Ref<IRTTIClass> ClassNamed(std::string_view Name);
@@ -102,6 +103,22 @@ void WriteValueXML(IRTTIElement& Element, pugi::xml_node Node);
 void ReadValueXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
 void WriteLiteralXML(IRTTIElement& Element, pugi::xml_node Node);
 void ReadLiteralXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void WriteMethodCallXML(IRTTIElement& Element, pugi::xml_node Node);
+void ReadMethodCallXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void WritePropertyRefXML(IRTTIElement& Element, pugi::xml_node Node);
+void ReadPropertyRefXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void WriteCollectionMethodXML(IRTTIElement& Element, pugi::xml_node Node);
+void ReadCollectionMethodXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void WriteConditionalXML(IRTTIElement& Element, pugi::xml_node Node);
+void ReadConditionalXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void WriteStatementsXML(IRTTIElement& Element, pugi::xml_node Node);
+void ReadStatementsXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void WriteTupleValueXML(IRTTIElement& Element, pugi::xml_node Node);
+void ReadTupleValueXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void WriteCollectionValueXML(IRTTIElement& Element, pugi::xml_node Node);
+void ReadCollectionValueXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void WritePragmaXML(IRTTIElement& Element, pugi::xml_node Node);
+void ReadPragmaXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
 
 void GetElementJSON(IRTTIElement& Element, TJSON& Value);
 void SetElementJSON(IRTTIElement& Element, const TJSON& Value);
@@ -119,5 +136,7 @@ void GetValueJSON(IRTTIElement& Element, TJSON& Value);
 void SetValueJSON(IRTTIElement& Element, const TJSON& Value);
 void GetLiteralJSON(IRTTIElement& Element, TJSON& Value);
 void SetLiteralJSON(IRTTIElement& Element, const TJSON& Value);
+void GetMethodCallJSON(IRTTIElement& Element, TJSON& Value);
+void GetPropertyRefJSON(IRTTIElement& Element, TJSON& Value);
 
 }  // namespace gello::forms

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "gello/expr/ControlNodes.h"
+#include "gello/expr/Navigation.h"
 #include "gello/model/ClassAlias.h"
 
 namespace gello::tool {
@@ -18,10 +20,42 @@ std::string Name(IRTTIElement* Element) {
   return Element ? ToUTF8(Element->GetName()) : std::string("?");
 }
 
-// Every node of an expression tree, by kind.
+void CountNodes(IRTTIElement* Node, TCounts& Counts);
+
+void CountList(IRTTIElementList* List, TCounts& Counts) {
+  for (int i = 0; List && i < List->GetCount(); ++i)
+    CountNodes(List->GetItems(i).get(), Counts);
+}
+
+// Every node of an expression tree, by kind; a variable counts by its initial value.
 void CountNodes(IRTTIElement* Node, TCounts& Counts) {
+  if (auto* Variable = dynamic_cast<IRTTIProperty*>(Node))
+    return CountNodes(Variable->GetPropertyValue().get(), Counts);
   if (!Node) return;
   ++Counts.Nodes[ToUTF8(Node->GetKind())];
+  if (auto* Call = dynamic_cast<TRTTIMethodCall*>(Node)) {
+    CountNodes(Call->Getclassref().get(), Counts);
+    CountList(Call->Getparams().get(), Counts);
+  } else if (auto* Ref = dynamic_cast<TRTTIPropertyRef*>(Node)) {
+    CountNodes(Ref->Getclassref().get(), Counts);
+  } else if (auto* Iteration = dynamic_cast<TRTTICollectionMethod*>(Node)) {
+    CountNodes(Iteration->Getclassref().get(), Counts);
+    CountNodes(Iteration->Getaccum().get(), Counts);
+    CountList(Iteration->Getparams().get(), Counts);
+  } else if (auto* Conditional = dynamic_cast<TRTTIConditional*>(Node)) {
+    CountNodes(Conditional->GetCondition().get(), Counts);
+    CountNodes(Conditional->GetThenPart().get(), Counts);
+    CountNodes(Conditional->GetElsePart().get(), Counts);
+  } else if (auto* Block = dynamic_cast<TRTTIStatements*>(Node)) {
+    CountList(Block->GetDeclaratives().get(), Counts);
+    CountNodes(Block->GetReturnValue().get(), Counts);
+  } else if (auto* Tuple = dynamic_cast<TRTTITupleValue*>(Node)) {
+    CountList(Tuple->GetValues().get(), Counts);
+  } else if (auto* Collection = dynamic_cast<TRTTICollectionValue*>(Node)) {
+    CountList(Collection->GetElements().get(), Counts);
+  } else if (auto* Pragma = dynamic_cast<TRTTIPragma*>(Node)) {
+    CountList(Pragma->Getpragmas().get(), Counts);
+  }
 }
 
 template <class F>
@@ -78,7 +112,7 @@ void PrintPackage(IRTTIPackage& Package, std::ostream& Out) {
   for (const auto& [Kind, Count] : Counts.Nodes)
     Nodes += Count;
   Out << "Package " << Name(&Package) << ": " << Counts.Classes << " classes ("
-      << Counts.Enumerations << " enumerations), " << Counts.Aliases << " class aliases, "
+      << Counts.Enumerations << " enumerations, " << Counts.Aliases << " aliases), "
       << Counts.Properties << " properties, " << Counts.Methods << " methods, " << Nodes
       << " expression nodes\n";
   for (const std::string& Line : Lines)
