@@ -21,7 +21,7 @@ using namespace gello;
 
 namespace {
 
-constexpr int ClassCount = 12000;
+constexpr int ClassCount = 13500;
 
 const String BuiltIns[] = {u"Integer", u"String", u"Real", u"Boolean"};
 
@@ -29,7 +29,7 @@ String ClassName(int i) {
   return u"Class" + IntToStr(i);
 }
 
-// if self.p0 > 1 then self.p1 else p2->select(x | x.p0 > 2) endif, typed by other classes.
+// if self.a > n then self.b else self.c->select(x | 2) endif, typed by other classes.
 Ref<IRTTIValue> Body(IRTTIGlobals& Globals, const Ref<IRTTIClass>& Type, int Seed) {
   auto Integer = Globals.Get_Integer();
   auto Args = [&](std::int64_t N) {
@@ -38,21 +38,23 @@ Ref<IRTTIValue> Body(IRTTIGlobals& Globals, const Ref<IRTTIClass>& Type, int See
     return List;
   };
   auto Test = MakeRef<TRTTIMethodCall>(u">", Globals.Get_Boolean(),
-                                       MakeRef<TRTTIPropertyRef>(u"p0", Integer, nullptr),
+                                       MakeRef<TRTTIPropertyRef>(u"a", Integer, nullptr),
                                        Args(Seed % 100), nullptr);
   auto Iterator = MakeRef<TRTTIProperty>(u"x", Type);
   auto Select = MakeRef<TRTTICollectionMethod>(
-      u"select", Type, MakeRef<TRTTIPropertyRef>(u"p2", Type, nullptr), Iterator, nullptr, Args(2));
-  return MakeRef<TRTTIConditional>(Type, Test, MakeRef<TRTTIPropertyRef>(u"p1", Type, nullptr),
+      u"select", Type, MakeRef<TRTTIPropertyRef>(u"c", Type, nullptr), Iterator, nullptr, Args(2));
+  return MakeRef<TRTTIConditional>(Type, Test, MakeRef<TRTTIPropertyRef>(u"b", Type, nullptr),
                                    Select);
 }
 
 // ClassCount classes, each deriving from an earlier one, with eight properties and three
-// methods whose bodies are small expression trees.
+// methods whose bodies are small expression trees. Member names are unique along the ancestor
+// chain, which a class requires.
 Ref<TRTTIPackage> Model(TRTTIGlobals& Globals) {
   auto Package = MakeRef<TRTTIPackage>(u"Generated");
   Globals.AddMember(Package);
   for (int i = 0; i < ClassCount; ++i) {
+    const String Own = u"c" + IntToStr(i) + u"_";
     auto Type = [&](int k) { return Package->FindAddClass(ClassName(k), &Globals); };
     Ref<IRTTIClass> C = Type(i);
     if (i > 0) C->SetAncestor(Type(i / 2));
@@ -60,12 +62,12 @@ Ref<TRTTIPackage> Model(TRTTIGlobals& Globals) {
     for (int k = 0; k < 8; ++k) {
       const Ref<IRTTIClass> PropertyType =
           k % 2 ? Type((i * 7 + k) % ClassCount) : Globals.FindClass(BuiltIns[k / 2]);
-      C->AddMember(MakeRef<TRTTIProperty>(u"p" + IntToStr(k), PropertyType));
+      C->AddMember(MakeRef<TRTTIProperty>(Own + u"p" + IntToStr(k), PropertyType));
     }
     for (int k = 0; k < 3; ++k) {
       auto Params = MakeRef<TRTTIElementList>();
       Params->Add(MakeRef<TRTTIProperty>(u"arg", Type((i + k + 1) % ClassCount)));
-      auto Method = MakeRef<TRTTIMethod>(u"f" + IntToStr(k), Type(i), Params);
+      auto Method = MakeRef<TRTTIMethod>(Own + u"f" + IntToStr(k), Type(i), Params);
       Method->SetResultValue(Body(Globals, Type((i + k) % ClassCount), i + k));
       C->AddMember(Method);
     }

@@ -17,8 +17,8 @@ class TReading {
  public:
   explicit TReading(IRTTIGlobals* Globals) : FGlobals(Globals) {}
   IRTTIGlobals* Globals() const { return FGlobals; }
-  /// The class a type attribute names: found, or added as a placeholder, through the global
-  /// scope (a bare placeholder without one); nil for an empty name.
+  /// The class a type attribute names, found through the global scope or else a placeholder
+  /// by that name, the same one for each use in this read; nil for an empty name.
   Ref<IRTTIClass> ClassNamed(std::string_view Name);
 
  private:

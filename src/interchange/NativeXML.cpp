@@ -14,9 +14,13 @@ Ref<IRTTIClass> TReading::ClassNamed(std::string_view Name) {
   if (Name.empty()) return nullptr;
   if (auto Found = FClasses.find(Name); Found != FClasses.end()) return Found->second;
   const String Text = FromUTF8(Name);
-  Ref<IRTTIClass> Class = FGlobals ? FGlobals->FindAddClass(Text, FGlobals) : BuildClassRef(Text);
-  // A qualified name whose package is not loaded yet finds nothing; it may be loaded later.
-  if (Class) FClasses.emplace(Name, Class);
+  Ref<IRTTIClass> Class;
+  // A qualified name is looked for in its own package; otherwise, as any name the loaded
+  // packages do not define, it becomes a placeholder that resolving binds.
+  if (FGlobals && Text.find(u"::") != String::npos && Text.find(u'(') == String::npos)
+    Class = FGlobals->FindAddClass(Text, FGlobals);
+  if (!Class) Class = FGlobals ? FGlobals->BuildClass(Text) : BuildClassRef(Text);
+  FClasses.emplace(Name, Class);
   return Class;
 }
 

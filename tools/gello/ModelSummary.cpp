@@ -7,6 +7,7 @@
 #include "gello/expr/ControlNodes.h"
 #include "gello/expr/Navigation.h"
 #include "gello/model/ClassAlias.h"
+#include "gello/model/ElementList.h"
 
 namespace gello::tool {
 namespace {
@@ -127,23 +128,26 @@ void PrintPackage(IRTTIPackage& Package, std::ostream& Out) {
     PrintPackage(*Inner, Out);
 }
 
-// Placeholders are the classes that reading added to the global scope itself; one resolves
-// when some loaded package defines its name.
-std::vector<std::string> Unresolved(IRTTIGlobals& Globals) {
-  std::vector<Ref<IRTTIPackage>> Packages;
-  std::vector<Ref<IRTTIClass>> Placeholders;
-  ForEachMember(Globals, [&](const Ref<IRTTIElement>& Member) {
+// Whether a loaded package holds this very class.
+bool Defined(IRTTIClass* Class, IRTTIScope& Scope) {
+  bool Found = false;
+  ForEachMember(Scope, [&](const Ref<IRTTIElement>& Member) {
     if (auto Package = DynCast<IRTTIPackage>(Member))
-      Packages.push_back(Package);
-    else if (auto Class = DynCast<IRTTIClass>(Member))
-      Placeholders.push_back(Class);
+      Found = Found || Package->FindClass(Class->GetName()).get() == Class;
   });
+  return Found;
+}
+
+// The classes the package's declarations refer to that no loaded package holds: placeholders
+// made while reading that resolving could not bind (anonymous tuple types aside).
+std::vector<std::string> Unresolved(IRTTIPackage& Package, IRTTIGlobals& Globals) {
+  auto Classes = MakeRef<TRTTIElementList>();
+  Package.WalkClasses(*Classes);
   std::vector<std::string> Names;
-  for (const Ref<IRTTIClass>& Placeholder : Placeholders) {
-    bool Defined = false;
-    for (const Ref<IRTTIPackage>& Package : Packages)
-      Defined = Defined || Package->FindClass(Placeholder->GetName());
-    if (!Defined) Names.push_back(Name(Placeholder.get()));
+  for (int i = 0; i < Classes->GetCount(); ++i) {
+    auto Class = DynCast<IRTTIClass>(Classes->GetItems(i));
+    if (Class && !Class->GetIsTuple() && !Defined(Class.get(), Globals))
+      Names.push_back(Name(Class.get()));
   }
   return Names;
 }
@@ -152,7 +156,7 @@ std::vector<std::string> Unresolved(IRTTIGlobals& Globals) {
 
 void PrintSummary(IRTTIPackage& Package, IRTTIGlobals& Globals, std::ostream& Out) {
   PrintPackage(Package, Out);
-  const std::vector<std::string> Names = Unresolved(Globals);
+  const std::vector<std::string> Names = Unresolved(Package, Globals);
   Out << "Placeholder classes that did not resolve:";
   if (Names.empty()) Out << " none";
   for (const std::string& Placeholder : Names)

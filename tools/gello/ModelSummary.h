@@ -6,8 +6,8 @@
 
 namespace gello::tool {
 
-/// Prints the package's classes, properties, methods and expressions, and the placeholder
-/// classes of the global scope that no loaded package defines.
+/// Prints the package's classes, properties, methods and expressions, and the classes its
+/// declarations refer to that no loaded package defines.
 void PrintSummary(IRTTIPackage& Package, IRTTIGlobals& Globals, std::ostream& Out);
 
 }  // namespace gello::tool
