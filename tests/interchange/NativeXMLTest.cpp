@@ -169,6 +169,14 @@ TEST_F(NativeXMLTest, BadInputEndsInTheSystemsMessages) {
   EXPECT_EQ(MessageOf("<GELLO><members></GELLO>"), u"Start-end tags mismatch at offset 18");
   EXPECT_EQ(MessageOf("<other/>").substr(0, 36), u"Trying to read nil xml node in model");
 
+  // Aliases that stand for one another are refused when resolved, not followed for ever.
+  auto Loop = Read(
+      "<GELLO kind='Package' name='L'><members>"
+      "<e kind='ClassAlias' name='A' actualclass='B'/>"
+      "<e kind='ClassAlias' name='B' actualclass='A'/></members></GELLO>");
+  Globals->AddMember(Loop);
+  EXPECT_THROW(Loop->Resolve(Globals.get()), EAssertionFailed);
+
   auto Named = MakeRef<TRTTIPackage>(u"Clinic");
   pugi::xml_document Document;
   Document.load_string("<GELLO kind='Package' name='Other'/>");
