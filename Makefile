@@ -21,6 +21,7 @@ test: build
 
 demo: build
 	$(BUILD)/tools/gello/gello xml paths examples/patient-record.xml
+	$(BUILD)/tools/gello/gello model info examples/clinical-model.xml
 
 bench: build
 	for b in $(BUILD)/bench/bench_*; do $$b; done

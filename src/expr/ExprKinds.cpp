@@ -10,14 +10,15 @@ namespace gello {
 namespace {
 
 [[maybe_unused]] const bool Registered = [] {
-  RegisterRTTI({RTTIClassOf<TRTTIValue>(), RTTIClassOf<TRTTIStringLiteral>(),
-                RTTIClassOf<TRTTIIntegerLiteral>(), RTTIClassOf<TRTTIRealLiteral>(),
-                RTTIClassOf<TRTTIBooleanLiteral>(), RTTIClassOf<TRTTINullLiteral>(),
-                RTTIClassOf<TRTTIClassLiteral>(), RTTIClassOf<TRTTIEnumLiteral>(),
-                RTTIClassOf<TRTTIGeneric>(), RTTIClassOf<TRTTIMethodCall>(),
-                RTTIClassOf<TRTTIPropertyRef>(), RTTIClassOf<TRTTICollectionMethod>(),
-                RTTIClassOf<TRTTIConditional>(), RTTIClassOf<TRTTITupleValue>(),
-                RTTIClassOf<TRTTICollectionValue>(), RTTIClassOf<TRTTIPragma>()});
+  RegisterRTTI({RTTIClassOf<TRTTIValue>(), RTTIClassOf<TRTTITextLiteral>(),
+                RTTIClassOf<TRTTIStringLiteral>(), RTTIClassOf<TRTTIIntegerLiteral>(),
+                RTTIClassOf<TRTTIRealLiteral>(), RTTIClassOf<TRTTIBooleanLiteral>(),
+                RTTIClassOf<TRTTINullLiteral>(), RTTIClassOf<TRTTIClassLiteral>(),
+                RTTIClassOf<TRTTIEnumLiteral>(), RTTIClassOf<TRTTIGeneric>(),
+                RTTIClassOf<TRTTIMethodCall>(), RTTIClassOf<TRTTIPropertyRef>(),
+                RTTIClassOf<TRTTICollectionMethod>(), RTTIClassOf<TRTTIConditional>(),
+                RTTIClassOf<TRTTITupleValue>(), RTTIClassOf<TRTTICollectionValue>(),
+                RTTIClassOf<TRTTIPragma>()});
   return true;
 }();
 

@@ -1,5 +1,8 @@
 #include "gello/model/ClassAlias.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "gello/foundation/Exceptions.h"
 
 namespace gello {
@@ -18,11 +21,30 @@ void TRTTIClassAlias::SetActualClass(const Ref<IRTTIClass>& Value) {
   FActualClass = Value;
 }
 
+namespace {
+
+// Whether following Class through aliases comes back to an alias already passed.
+bool AliasesLoop(IRTTIClass* Class, const IRTTIClass* Self) {
+  std::vector<const IRTTIClass*> Passed{Self};
+  while (auto* Alias = dynamic_cast<TRTTIClassAlias*>(Class)) {
+    if (std::find(Passed.begin(), Passed.end(), Class) != Passed.end()) return true;
+    Passed.push_back(Class);
+    Class = Alias->GetActualClass().get();
+  }
+  return false;
+}
+
+}  // namespace
+
 void TRTTIClassAlias::Resolve(IRTTIScope* Scope) {
   TRTTIScope::Resolve(Scope);
   Ref<IRTTIClass> Resolved = ResolveClass(FActualClass, Scope);
   // An alias named like its class finds itself; it keeps standing for the class.
-  if (Resolved.get() != static_cast<IRTTIClass*>(this)) FActualClass = Resolved;
+  if (Resolved.get() != static_cast<IRTTIClass*>(this)) {
+    // Aliases that stand for one another stand for no class: every query would go round.
+    GELLO_ASSERT(!AliasesLoop(Resolved.get(), this), u"Assertion failure");
+    FActualClass = Resolved;
+  }
   GELLO_ASSERT(FActualClass, u"Assertion failure");
 }
 

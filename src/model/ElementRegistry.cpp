@@ -1,5 +1,6 @@
 #include "gello/model/ElementRegistry.h"
 
+#include <algorithm>
 #include <unordered_map>
 
 #include "gello/foundation/Exceptions.h"
@@ -18,6 +19,14 @@ std::unordered_map<String, TElementFactory>& Registry() {
 void RegisterRTTI(std::initializer_list<TRTTIElementClass> Classes) {
   for (const TRTTIElementClass& Class : Classes)
     Registry()[Class.Kind] = Class.Create;
+}
+
+std::vector<String> RegisteredKinds() {
+  std::vector<String> Kinds;
+  for (const auto& Entry : Registry())
+    Kinds.push_back(Entry.first);
+  std::sort(Kinds.begin(), Kinds.end());
+  return Kinds;
 }
 
 Ref<IRTTIElement> CreateForReader(const String& Kind, const String& Name) {

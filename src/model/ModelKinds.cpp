@@ -3,6 +3,7 @@
 #include "gello/model/ClassAlias.h"
 #include "gello/model/ElementRegistry.h"
 #include "gello/model/Factory.h"
+#include "gello/model/Globals.h"
 #include "gello/model/Method.h"
 #include "gello/model/Package.h"
 #include "gello/model/Property.h"
@@ -11,9 +12,17 @@ namespace gello {
 namespace {
 
 [[maybe_unused]] const bool Registered = [] {
-  RegisterRTTI({RTTIClassOf<TRTTIClass>(), RTTIClassOf<TRTTIClassAlias>(),
-                RTTIClassOf<TRTTIProperty>(), RTTIClassOf<TRTTIMethod>(),
-                RTTIClassOf<TRTTIPackage>(), RTTIClassOf<TRTTIFactory>()});
+  RegisterRTTI({RTTIClassOf<TRTTIElement>(),
+                RTTIClassOf<TRTTIScope>(),
+                RTTIClassOf<TRTTIClass>(),
+                RTTIClassOf<TRTTIClassAlias>(),
+                RTTIClassOf<TRTTIProperty>(),
+                RTTIClassOf<TRTTIMethod>(),
+                RTTIClassOf<TRTTIPackage>(),
+                RTTIClassOf<TRTTIFactory>(),
+                // The global scope is always named "Globals".
+                {String(TRTTIGlobals::KindName),
+                 [](const String&) -> Ref<IRTTIElement> { return MakeRef<TRTTIGlobals>(); }}});
   return true;
 }();
 

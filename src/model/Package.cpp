@@ -1,7 +1,5 @@
 #include "gello/model/Package.h"
 
-#include <fstream>
-
 #include "gello/foundation/Exceptions.h"
 #include "gello/model/ElementList.h"
 #include "gello/model/MethodTimer.h"
@@ -39,21 +37,6 @@ void TRTTIPackage::Clear() {
   if (FMainBlock) FMainBlock->Clear();
   FMainBlock = nullptr;
   TRTTIScope::Clear();
-}
-
-void TRTTIPackage::SaveToStream(const String& FileName) {
-  std::ofstream Stream(ToUTF8(FileName), std::ios::binary | std::ios::trunc);
-  if (!Stream) throw Exception(u"Cannot create file \"" + FileName + u"\"");
-  // The header was always written with its character count as byte count: 13 bytes of
-  // UTF-16, ending in the low byte of "P". Readers expect exactly that.
-  const String Header = u"GELLO_PACKAGE";
-  std::string Bytes;
-  for (char16_t C : Header) {
-    Bytes.push_back(static_cast<char>(C & 0xFF));
-    Bytes.push_back(static_cast<char>(C >> 8));
-  }
-  Stream.write(Bytes.data(), static_cast<std::streamsize>(Header.size()));
-  if (!Stream) throw Exception(u"Cannot write file \"" + FileName + u"\"");
 }
 
 }  // namespace gello

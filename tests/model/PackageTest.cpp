@@ -161,7 +161,10 @@ TEST_F(PackageTest, SaveToStreamWritesThe13ByteHeader) {
   std::ifstream In(File, std::ios::binary);
   const std::string Bytes((std::istreambuf_iterator<char>(In)), std::istreambuf_iterator<char>());
   std::filesystem::remove(File);
-  EXPECT_EQ(Bytes, std::string("G\0E\0L\0L\0O\0_\0P", 13));
+  EXPECT_EQ(Bytes.substr(0, 13), std::string("G\0E\0L\0L\0O\0_\0P", 13));
+  // Then the package's native document.
+  EXPECT_NE(Bytes.find("<GELLO xmlns=", 13), std::string::npos);
+  EXPECT_NE(Bytes.find("name=\"Clinic\"", 13), std::string::npos);
   EXPECT_EQ(ErrorMessage([&] { Package->SaveToStream(u"/nonexistent-dir/x.pkg"); }),
             u"Cannot create file \"/nonexistent-dir/x.pkg\"");
 }

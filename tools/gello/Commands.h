@@ -9,4 +9,7 @@ void AddXmlCommands(CLI::App& App);
 /// "registry [INTERFACE]": the class registry's dump, or an interface's slot listing.
 void AddRegistryCommands(CLI::App& App);
 
+/// "model info FILE" and "model convert IN OUT --to xml|json": native models.
+void AddModelCommands(CLI::App& App);
+
 }  // namespace gello::tool

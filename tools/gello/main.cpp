@@ -11,6 +11,7 @@ int main(int argc, char** argv) {
   App.set_version_flag("--version", std::string("gello ") + GELLO_VERSION);
   App.require_subcommand(1);
   gello::tool::AddXmlCommands(App);
+  gello::tool::AddModelCommands(App);
   gello::tool::AddRegistryCommands(App);
   try {
     App.parse(argc, argv);

@@ -9,10 +9,12 @@ namespace gello {
 /// A constant value node; its text form is GetasString / SetasString.
 class TRTTILiteral : public TRTTIValue, public virtual IRTTILiteral {
  public:
+  static constexpr StringView KindName = u"Literal";
   using TRTTIValue::TRTTIValue;
+  String GetKind() const override { return String(KindName); }
 };
 
-/// A constant kept as its text, unchanged.
+/// A constant kept as its text, unchanged; read for the plain kind "Literal".
 class TRTTITextLiteral : public TRTTILiteral {
  public:
   using TRTTILiteral::TRTTILiteral;

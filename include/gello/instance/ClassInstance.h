@@ -1,12 +1,9 @@
 #pragma once
 // The interface of every dynamic instance and every OCL value: typed, with properties and text.
-#include <nlohmann/json.hpp>
+#include "gello/foundation/JSON.h"
 #include "gello/model/Interfaces.h"
 
 namespace gello {
-
-/// The JSON object model of gello; member order is kept as written.
-using TJSON = nlohmann::ordered_json;
 
 /// An instance of a model class: its type, its property values by name or position, its text
 /// and JSON forms. Operations are declared in slot order.

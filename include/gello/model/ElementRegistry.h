@@ -1,6 +1,7 @@
 #pragma once
 // The element-class registry: readers create elements by kind word (a class name without "TRTTI").
 #include <initializer_list>
+#include <vector>
 
 #include "gello/model/Interfaces.h"
 
@@ -24,6 +25,9 @@ TRTTIElementClass RTTIClassOf() {
 
 /// Registers element classes by kind; a kind registered again takes the newer class.
 void RegisterRTTI(std::initializer_list<TRTTIElementClass> Classes);
+
+/// The registered kind words, sorted.
+std::vector<String> RegisteredKinds();
 
 /// A new element of that kind and name; empty for an empty kind; raises for an unknown kind.
 Ref<IRTTIElement> CreateForReader(const String& Kind, const String& Name);

@@ -28,7 +28,11 @@ class TRTTIPackage : public TRTTIScope, public virtual IRTTIPackage {
   void Resolve(IRTTIScope* Scope) override;
   void Clear() override;
 
-  /// Writes the stream header "GELLO_PACKAGE" as its first 13 bytes of UTF-16, to a new file.
+  /// Reads a native model file (root "GELLO"); a file that is not well-formed XML raises.
+  void LoadFromFile(const String& FileName, IRTTIGlobals* Globals);
+  /// Writes the package as a native model file.
+  void SaveToFile(const String& FileName);
+  /// Writes the header "GELLO_PACKAGE" (its first 13 bytes of UTF-16), then the native form.
   void SaveToStream(const String& FileName);
 
  private:

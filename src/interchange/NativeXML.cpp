@@ -1,0 +1,118 @@
+// Dispatch of the native XML form by kind, single-element and list nodes, and the reading
+// context.
+#include "gello/interchange/NativeXML.h"
+
+#include "KindForms.h"
+#include "gello/model/Class.h"
+#include "gello/model/ElementList.h"
+#include "gello/model/ElementRegistry.h"
+
+namespace gello {
+namespace forms {
+
+Ref<IRTTIClass> TReading::ClassNamed(std::string_view Name) {
+  if (Name.empty()) return nullptr;
+  if (auto Found = FClasses.find(Name); Found != FClasses.end()) return Found->second;
+  const String Text = FromUTF8(Name);
+  Ref<IRTTIClass> Class;
+  // A qualified name is looked for in its own package; otherwise, as any name the loaded
+  // packages do not define, it becomes a placeholder that resolving binds.
+  if (FGlobals && Text.find(u"::") != String::npos && Text.find(u'(') == String::npos)
+    Class = FGlobals->FindAddClass(Text, FGlobals);
+  if (!Class) Class = FGlobals ? FGlobals->BuildClass(Text) : BuildClassRef(Text);
+  FClasses.emplace(Name, Class);
+  return Class;
+}
+
+String Text(pugi::xml_node Node, const char* Name) {
+  return FromUTF8(Node.attribute(Name).as_string());
+}
+
+void SetText(pugi::xml_node Node, const char* Name, StringView Value) {
+  Node.append_attribute(Name).set_value(ToUTF8(Value).c_str());
+}
+
+void SetClassName(pugi::xml_node Node, const char* Name, IRTTIClass* Class) {
+  if (Class) SetText(Node, Name, Class->GetName());
+}
+
+void ReadElement(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+  GELLO_ASSERT(Node, u"Trying to read nil xml node in model");
+  FormOf(Element.GetKind()).ReadXML(Element, Node, Reading);
+}
+
+Ref<IRTTIElement> LoadElement(pugi::xml_node Node, TReading& Reading) {
+  if (!Node) return nullptr;
+  Ref<IRTTIElement> Element = CreateForReader(Text(Node, "kind"), Text(Node, "name"));
+  if (Element) ReadElement(*Element, Node, Reading);
+  return Element;
+}
+
+static void ReadList(IRTTIElementList& List, pugi::xml_node Node, TReading& Reading) {
+  GELLO_ASSERT(Node, u"Trying to read nil xml node in model");
+  for (pugi::xml_node Child : Node.children()) {
+    if (Child.type() != pugi::node_element) continue;
+    const String Name = Text(Child, "name");
+    if (Ref<IRTTIElement> Existing = List.GetMergeElements() ? List.GetItemByName(Name) : nullptr) {
+      ReadElement(*Existing, Child, Reading);
+      continue;
+    }
+    Ref<IRTTIElement> Element = CreateForReader(Text(Child, "kind"), Name);
+    List.Add(Element);
+    ReadElement(*Element, Child, Reading);
+  }
+}
+
+Ref<IRTTIElementList> LoadList(Ref<IRTTIElementList> List, pugi::xml_node Node, TReading& Reading) {
+  if (!Node) return List;
+  if (!List) List = MakeRef<TRTTIElementList>();
+  ReadList(*List, Node, Reading);
+  return List;
+}
+
+void WriteSingle(IRTTIElement* Element, pugi::xml_node Parent, const char* Role, bool Always) {
+  if (Element)
+    WriteXML(*Element, Parent.append_child(Role));
+  else if (Always)
+    Parent.append_child(Role);
+}
+
+void WriteList(IRTTIElementList* List, pugi::xml_node Parent, const char* Role, bool Always) {
+  if (!List && !Always) return;
+  pugi::xml_node Node = Parent.append_child(Role);
+  if (List) WriteXML(*List, Node);
+}
+
+}  // namespace forms
+
+void WriteXML(IRTTIElement& Element, pugi::xml_node Node) {
+  forms::FormOf(Element.GetKind()).WriteXML(Element, Node);
+}
+
+void ReadXML(IRTTIElement& Element, pugi::xml_node Node, IRTTIGlobals* Globals) {
+  forms::TReading Reading(Globals);
+  forms::ReadElement(Element, Node, Reading);
+}
+
+Ref<IRTTIElement> LoadFromXMLNode(pugi::xml_node Node, IRTTIGlobals* Globals) {
+  forms::TReading Reading(Globals);
+  return forms::LoadElement(Node, Reading);
+}
+
+void WriteXML(IRTTIElementList& List, pugi::xml_node Node) {
+  for (int i = 0; i < List.GetCount(); ++i)
+    WriteXML(*List.GetItems(i), Node.append_child("element"));
+}
+
+void ReadXML(IRTTIElementList& List, pugi::xml_node Node, IRTTIGlobals* Globals) {
+  forms::TReading Reading(Globals);
+  forms::ReadList(List, Node, Reading);
+}
+
+Ref<IRTTIElementList> LoadFromXMLNode(Ref<IRTTIElementList> List, pugi::xml_node Node,
+                                      IRTTIGlobals* Globals) {
+  forms::TReading Reading(Globals);
+  return forms::LoadList(std::move(List), Node, Reading);
+}
+
+}  // namespace gello

@@ -1,0 +1,54 @@
+// A package's native model files, and its stream form: the header, then the same document.
+#include <fstream>
+
+#include "gello/foundation/Exceptions.h"
+#include "gello/interchange/NativeXML.h"
+#include "gello/interchange/XMLDocument.h"
+#include "gello/model/Package.h"
+
+namespace gello {
+namespace {
+
+// All three exports write their documents the same way: indented, UTF-8.
+constexpr unsigned OutputFormat = pugi::format_indent;
+
+void BuildDocument(pugi::xml_document& Document, TRTTIPackage& Package) {
+  pugi::xml_node Root = Document.append_child("GELLO");
+  Root.append_attribute("xmlns").set_value(GelloModelNamespace);
+  WriteXML(Package, Root);
+}
+
+}  // namespace
+
+void TRTTIPackage::LoadFromFile(const String& FileName, IRTTIGlobals* Globals) {
+  pugi::xml_document Document;
+  LoadXMLDocument(Document, FileName);
+  ReadXML(*this, Document.child("GELLO"), Globals);
+}
+
+void TRTTIPackage::SaveToFile(const String& FileName) {
+  pugi::xml_document Document;
+  BuildDocument(Document, *this);
+  if (!Document.save_file(ToUTF8(FileName).c_str(), "  ", OutputFormat, pugi::encoding_utf8))
+    throw Exception(u"Cannot create file \"" + FileName + u"\"");
+}
+
+void TRTTIPackage::SaveToStream(const String& FileName) {
+  std::ofstream Stream(ToUTF8(FileName), std::ios::binary | std::ios::trunc);
+  if (!Stream) throw Exception(u"Cannot create file \"" + FileName + u"\"");
+  // The header was always written with its character count as byte count: 13 bytes of
+  // UTF-16, ending in the low byte of "P". Readers expect exactly that.
+  const String Header = u"GELLO_PACKAGE";
+  std::string Bytes;
+  for (char16_t C : Header) {
+    Bytes.push_back(static_cast<char>(C & 0xFF));
+    Bytes.push_back(static_cast<char>(C >> 8));
+  }
+  Stream.write(Bytes.data(), static_cast<std::streamsize>(Header.size()));
+  pugi::xml_document Document;
+  BuildDocument(Document, *this);
+  Document.save(Stream, "  ", OutputFormat, pugi::encoding_utf8);
+  if (!Stream) throw Exception(u"Cannot write file \"" + FileName + u"\"");
+}
+
+}  // namespace gello

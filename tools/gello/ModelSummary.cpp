@@ -1,0 +1,167 @@
+#include "ModelSummary.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "gello/expr/ControlNodes.h"
+#include "gello/expr/Navigation.h"
+#include "gello/model/ClassAlias.h"
+#include "gello/model/ElementList.h"
+
+namespace gello::tool {
+namespace {
+
+struct TCounts {
+  int Classes = 0, Enumerations = 0, Aliases = 0, Properties = 0, Methods = 0;
+  std::map<std::string, int> Nodes;  // expression nodes by kind
+};
+
+std::string Name(IRTTIElement* Element) {
+  return Element ? ToUTF8(Element->GetName()) : std::string("?");
+}
+
+void CountNodes(IRTTIElement* Node, TCounts& Counts);
+
+void CountList(IRTTIElementList* List, TCounts& Counts) {
+  for (int i = 0; List && i < List->GetCount(); ++i)
+    CountNodes(List->GetItems(i).get(), Counts);
+}
+
+// Every node of an expression tree, by kind; a variable counts by its initial value.
+void CountNodes(IRTTIElement* Node, TCounts& Counts) {
+  if (auto* Variable = dynamic_cast<IRTTIProperty*>(Node))
+    return CountNodes(Variable->GetPropertyValue().get(), Counts);
+  if (!Node) return;
+  ++Counts.Nodes[ToUTF8(Node->GetKind())];
+  if (auto* Call = dynamic_cast<TRTTIMethodCall*>(Node)) {
+    CountNodes(Call->Getclassref().get(), Counts);
+    CountList(Call->Getparams().get(), Counts);
+  } else if (auto* Ref = dynamic_cast<TRTTIPropertyRef*>(Node)) {
+    CountNodes(Ref->Getclassref().get(), Counts);
+  } else if (auto* Iteration = dynamic_cast<TRTTICollectionMethod*>(Node)) {
+    CountNodes(Iteration->Getclassref().get(), Counts);
+    CountNodes(Iteration->Getaccum().get(), Counts);
+    CountList(Iteration->Getparams().get(), Counts);
+  } else if (auto* Conditional = dynamic_cast<TRTTIConditional*>(Node)) {
+    CountNodes(Conditional->GetCondition().get(), Counts);
+    CountNodes(Conditional->GetThenPart().get(), Counts);
+    CountNodes(Conditional->GetElsePart().get(), Counts);
+  } else if (auto* Block = dynamic_cast<TRTTIStatements*>(Node)) {
+    CountList(Block->GetDeclaratives().get(), Counts);
+    CountNodes(Block->GetReturnValue().get(), Counts);
+  } else if (auto* Tuple = dynamic_cast<TRTTITupleValue*>(Node)) {
+    CountList(Tuple->GetValues().get(), Counts);
+  } else if (auto* Collection = dynamic_cast<TRTTICollectionValue*>(Node)) {
+    CountList(Collection->GetElements().get(), Counts);
+  } else if (auto* Pragma = dynamic_cast<TRTTIPragma*>(Node)) {
+    CountList(Pragma->Getpragmas().get(), Counts);
+  }
+}
+
+template <class F>
+void ForEachMember(IRTTIScope& Scope, F Visit) {
+  Ref<IRTTIElementList> Members = Scope.GetMembers();
+  for (int i = 0; Members && i < Members->GetCount(); ++i)
+    Visit(Members->GetItems(i));
+}
+
+std::string Describe(IRTTIClass& Class, TCounts& Counts) {
+  if (auto* Alias = dynamic_cast<TRTTIClassAlias*>(&Class)) {
+    ++Counts.Aliases;
+    return "alias of " + Name(Alias->GetActualClass().get());
+  }
+  ++Counts.Classes;
+  if (Ref<IRTTIElementList> Enums = Class.GetEnums()) {
+    ++Counts.Enumerations;
+    std::string Text = "enumeration of";
+    for (int i = 0; i < Enums->GetCount(); ++i)
+      Text += " " + Name(Enums->GetItems(i).get());
+    return Text;
+  }
+  int Properties = 0, Methods = 0;
+  ForEachMember(Class, [&](const Ref<IRTTIElement>& Member) {
+    if (auto Property = DynCast<IRTTIProperty>(Member)) {
+      ++Properties;
+      CountNodes(Property->GetPropertyValue().get(), Counts);
+    } else if (auto Method = DynCast<IRTTIMethod>(Member)) {
+      ++Methods;
+      CountNodes(Method->GetResultValue().get(), Counts);
+    }
+  });
+  Counts.Properties += Properties;
+  Counts.Methods += Methods;
+  std::string Text =
+      std::to_string(Properties) + " properties, " + std::to_string(Methods) + " methods";
+  if (Ref<IRTTIClass> Ancestor = Class.GetAncestor()) Text += ", ancestor " + Name(Ancestor.get());
+  if (Ref<IRTTIClass> Element = Class.GetImmediateElementType())
+    Text += ", elements " + Name(Element.get());
+  return Text;
+}
+
+void PrintPackage(IRTTIPackage& Package, std::ostream& Out) {
+  TCounts Counts;
+  std::vector<std::string> Lines;
+  std::vector<Ref<IRTTIPackage>> Nested;
+  ForEachMember(Package, [&](const Ref<IRTTIElement>& Member) {
+    if (auto Class = DynCast<IRTTIClass>(Member))
+      Lines.push_back("  " + Name(Member.get()) + ": " + Describe(*Class, Counts));
+    else if (auto Inner = DynCast<IRTTIPackage>(Member))
+      Nested.push_back(Inner);
+  });
+  int Nodes = 0;
+  for (const auto& [Kind, Count] : Counts.Nodes)
+    Nodes += Count;
+  Out << "Package " << Name(&Package) << ": " << Counts.Classes << " classes ("
+      << Counts.Enumerations << " enumerations, " << Counts.Aliases << " aliases), "
+      << Counts.Properties << " properties, " << Counts.Methods << " methods, " << Nodes
+      << " expression nodes\n";
+  for (const std::string& Line : Lines)
+    Out << Line << '\n';
+  if (Nodes > 0) {
+    Out << "  expression nodes:";
+    for (const auto& [Kind, Count] : Counts.Nodes)
+      Out << ' ' << Kind << ' ' << Count;
+    Out << '\n';
+  }
+  for (const Ref<IRTTIPackage>& Inner : Nested)
+    PrintPackage(*Inner, Out);
+}
+
+// Whether a loaded package holds this very class.
+bool Defined(IRTTIClass* Class, IRTTIScope& Scope) {
+  bool Found = false;
+  ForEachMember(Scope, [&](const Ref<IRTTIElement>& Member) {
+    if (auto Package = DynCast<IRTTIPackage>(Member))
+      Found = Found || Package->FindClass(Class->GetName()).get() == Class;
+  });
+  return Found;
+}
+
+// The classes the package's declarations refer to that no loaded package holds: placeholders
+// made while reading that resolving could not bind (anonymous tuple types aside).
+std::vector<std::string> Unresolved(IRTTIPackage& Package, IRTTIGlobals& Globals) {
+  auto Classes = MakeRef<TRTTIElementList>();
+  Package.WalkClasses(*Classes);
+  std::vector<std::string> Names;
+  for (int i = 0; i < Classes->GetCount(); ++i) {
+    auto Class = DynCast<IRTTIClass>(Classes->GetItems(i));
+    if (Class && !Class->GetIsTuple() && !Defined(Class.get(), Globals))
+      Names.push_back(Name(Class.get()));
+  }
+  return Names;
+}
+
+}  // namespace
+
+void PrintSummary(IRTTIPackage& Package, IRTTIGlobals& Globals, std::ostream& Out) {
+  PrintPackage(Package, Out);
+  const std::vector<std::string> Names = Unresolved(Package, Globals);
+  Out << "Placeholder classes that did not resolve:";
+  if (Names.empty()) Out << " none";
+  for (const std::string& Placeholder : Names)
+    Out << ' ' << Placeholder;
+  Out << '\n';
+}
+
+}  // namespace gello::tool
