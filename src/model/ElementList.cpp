@@ -39,14 +39,21 @@ void TRTTIElementList::IndexAdd(TItem& Item) {
   Item.Unnamed = Key.empty();
   if (IRTTIElement* Earlier = Newest(Key)) FOlder[Key].push_back(Earlier);
   SetNewest(Key, Element);
-  ++FHeld[Element];
+  if (!FHeldKept && FItems.size() >= ScanLimit) {
+    for (const TItem& Held : FItems)
+      ++FHeld[Held.Element.get()];
+    FHeldKept = true;
+  }
+  if (FHeldKept) ++FHeld[Element];
 }
 
 void TRTTIElementList::IndexRemove(const TItem& Item) {
   ForgetUMLIds();
   IRTTIElement* Element = Item.Element.get();
-  auto Held = FHeld.find(Element);
-  if (--Held->second == 0) FHeld.erase(Held);
+  if (FHeldKept) {
+    auto Held = FHeld.find(Element);
+    if (--Held->second == 0) FHeld.erase(Held);
+  }
   const String Key = Item.Unnamed ? String() : Element->GetName();
   auto Older = FOlder.find(Key);
   if (Older == FOlder.end()) {
@@ -90,10 +97,13 @@ void TRTTIElementList::Clear() {
   FUnnamed = nullptr;
   FOlder.clear();
   FHeld.clear();
+  FHeldKept = false;
 }
 
 bool TRTTIElementList::Exists(IRTTIElement* Element) const {
-  return FHeld.contains(Element);
+  if (FHeldKept) return FHeld.contains(Element);
+  return std::any_of(FItems.begin(), FItems.end(),
+                     [Element](const TItem& Item) { return Item.Element.get() == Element; });
 }
 
 int TRTTIElementList::IndexOf(const String& Name) const {

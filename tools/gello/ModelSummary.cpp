@@ -112,9 +112,9 @@ void PrintPackage(IRTTIPackage& Package, std::ostream& Out) {
   int Nodes = 0;
   for (const auto& [Kind, Count] : Counts.Nodes)
     Nodes += Count;
-  Out << "Package " << Name(&Package) << ": " << Counts.Classes << " classes ("
-      << Counts.Enumerations << " enumerations, " << Counts.Aliases << " aliases), "
-      << Counts.Properties << " properties, " << Counts.Methods << " methods, " << Nodes
+  Out << "Package " << Name(&Package) << ": " << Counts.Classes
+      << " classes (enumerations: " << Counts.Enumerations << ", aliases: " << Counts.Aliases
+      << "), " << Counts.Properties << " properties, " << Counts.Methods << " methods, " << Nodes
       << " expression nodes\n";
   for (const std::string& Line : Lines)
     Out << Line << '\n';

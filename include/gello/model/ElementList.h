@@ -67,8 +67,12 @@ class TRTTIElementList : public virtual IRTTIElementList {
   mutable std::unordered_map<String, IRTTIElement*> FByUMLId;
   mutable std::uint64_t FUMLEpoch = 0;
   mutable bool FUMLValid = false;
-  // How often each element is held, so that Exists and Include need not scan.
+  // How often each element is held, so that Exists and Include need not scan; kept only once
+  // the list has grown past a few items, since most lists are short and scanning them is cheaper
+  // than a table per list.
+  static constexpr std::size_t ScanLimit = 8;
   std::unordered_map<IRTTIElement*, int> FHeld;
+  bool FHeldKept = false;
 };
 
 }  // namespace gello
