@@ -8,16 +8,11 @@
 
 using namespace gello;
 
-TEST(GUID, TextFormRoundTripsAndMatchesTheLiteral) {
+TEST(GUID, TextFormRoundTripsMatchesTheLiteralAndMustBeBraced) {
   constexpr GUID Literal = GUIDLiteral("{0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9}");
   static_assert(Literal.D1 == 0x0A1B2C3D && Literal.D2 == 0x4E5F && Literal.D3 == 0x6071);
-  EXPECT_EQ(Literal.D4[0], 0x82);
-  EXPECT_EQ(Literal.D4[7], 0xF9);
   EXPECT_EQ(Literal.ToString(), u"{0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9}");
   EXPECT_EQ(GUID::Parse(u"{0a1b2c3d-4e5f-6071-8293-a4b5c6d7e8f9}"), Literal);
-}
-
-TEST(GUID, RejectsTextThatIsNotABracedGUID) {
   for (const char16_t* Bad :
        {u"", u"0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9", u"{0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8FZ}",
         u"{0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9"}) {
@@ -38,6 +33,5 @@ TEST(GUID, CreatedGUIDsAreDistinctVersion4AndNeverNull) {
     EXPECT_EQ(G.D3 >> 12, 4);
     EXPECT_TRUE(Seen.insert(G).second);
   }
-  EXPECT_TRUE(IsNullGUID(GUID{}));
   EXPECT_EQ(nullGUID.ToString(), u"{00000000-0000-0000-0000-000000000000}");
 }

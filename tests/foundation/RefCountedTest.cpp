@@ -30,7 +30,7 @@ class TSquare : public virtual IShape, public virtual INamed {
 
 }  // namespace
 
-TEST(RefCounted, CountsThroughEveryInterfaceAndFreesAtZero) {
+TEST(RefCounted, CountsThroughEveryInterfaceFreesAtZeroAndCopiesCountAnew) {
   {
     Ref<TSquare> Square = MakeRef<TSquare>();
     EXPECT_EQ(Alive, 1);
@@ -47,9 +47,6 @@ TEST(RefCounted, CountsThroughEveryInterfaceAndFreesAtZero) {
     EXPECT_EQ(Square->GetRefCount(), 2);
   }
   EXPECT_EQ(Alive, 0);
-}
-
-TEST(RefCounted, ACopyStartsItsOwnCount) {
   Ref<TSquare> First = MakeRef<TSquare>();
   Ref<TSquare> Extra = First;
   Ref<TSquare> Copy = MakeRef<TSquare>(*First);

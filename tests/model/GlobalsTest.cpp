@@ -47,16 +47,12 @@ TEST_F(GlobalsTest, SystemHoldsTheBuiltInsInOrderWithTheirAncestors) {
     EXPECT_EQ(C->GetKind(), Expected[i].Kind);
     EXPECT_EQ(C->GetClassKind(), Expected[i].ClassKind) << ToUTF8(Expected[i].Name);
   }
-  EXPECT_TRUE(Globals->Get_T()->IsGeneric());
   EXPECT_EQ(Globals->Get_Untyped()->GetName(), u"_Untyped_");
   EXPECT_EQ(Globals->Get_Undefined()->GetName(), u"_Undefined_");
   EXPECT_TRUE(Globals->Get_Tuple()->GetIsTuple());
   EXPECT_EQ(Globals->Get_Set()->GetAncestor(), Globals->Get_Collection());
   EXPECT_EQ(Globals->Get_Set()->GetElementType(), Globals->Get_T());
-  EXPECT_EQ(Globals->Get_Integer()->GetAncestor(), Globals->Get_Real());
-  EXPECT_TRUE(Globals->Get_Integer()->HasAncestor(Globals->Get_Any().get()));
   EXPECT_FALSE(Globals->Get_Undefined()->GetAncestor());
-  EXPECT_TRUE(Globals->Get_Set()->IsClass(Globals->Get_Collection().get()));  // by ancestry
 }
 
 TEST_F(GlobalsTest, LookupSearchesOneLevelSystemFirst) {
@@ -64,8 +60,7 @@ TEST_F(GlobalsTest, LookupSearchesOneLevelSystemFirst) {
   EXPECT_EQ(Globals->Lookup<IRTTIPackage>(u"System"), Globals->Get_System());
   auto User = MakeRef<TRTTIPackage>(u"User");
   Globals->AddMember(User);
-  auto MyString = MakeRef<TRTTIClass>(u"String");
-  User->AddMember(MyString);
+  User->AddMember(MakeRef<TRTTIClass>(u"String"));
   auto Patient = MakeRef<TRTTIClass>(u"Patient");
   User->AddMember(Patient);
   auto Nested = MakeRef<TRTTIPackage>(u"Nested");
@@ -77,7 +72,6 @@ TEST_F(GlobalsTest, LookupSearchesOneLevelSystemFirst) {
   EXPECT_FALSE(Globals->Lookup(Patient->GetUML_ID(), IRTTIElement::IID));  // no UML id step
   EXPECT_EQ(Globals->FindClass(u"Deep")->GetName(), u"Deep");  // the package search goes deeper
   Ref<IRTTIPackage> Main = Globals->Get_Main();                // made once, and a member
-  EXPECT_EQ(Main->GetName(), u"Main");
   EXPECT_EQ(Globals->Get_Main(), Main);
   EXPECT_EQ(Globals->Lookup<IRTTIPackage>(u"Main"), Main);
 }
@@ -86,11 +80,8 @@ TEST_F(GlobalsTest, BuildClassAndBuildCollectionMakePlaceholders) {
   EXPECT_FALSE(Globals->BuildClass(u""));
   EXPECT_EQ(Globals->BuildClass(u"Integer"), Globals->Get_Integer());
   Ref<IRTTIClass> Unknown = Globals->BuildClass(u"Unknown");
-  EXPECT_EQ(Unknown->GetName(), u"Unknown");
-  EXPECT_FALSE(Unknown->GetAncestor());
   EXPECT_FALSE(Globals->FindClass(u"Unknown"));  // added to no package
   EXPECT_NE(Globals->BuildClass(u"Unknown"), Unknown);
-
   Ref<IRTTIClass> SetOfInteger = Globals->BuildCollection(u"Set", u"Integer");
   EXPECT_EQ(SetOfInteger->GetName(), u"Set(Integer)");
   EXPECT_EQ(SetOfInteger->GetAncestor()->GetName(), u"Set");

@@ -8,6 +8,7 @@
 #include "gello/foundation/Exceptions.h"
 #include "gello/model/Class.h"
 #include "gello/model/ElementList.h"
+#include "gello/model/Property.h"
 
 struct MadeClasses : testing::Test {
   std::vector<gello::Ref<gello::IRTTIClass>> Made;
@@ -21,6 +22,15 @@ struct MadeClasses : testing::Test {
       C->Clear();
   }
 };
+
+// A property Name of type Type, added to Owner.
+inline gello::Ref<gello::IRTTIProperty> Property(const gello::Ref<gello::IRTTIClass>& Owner,
+                                                 const gello::String& Name,
+                                                 const gello::Ref<gello::IRTTIClass>& Type) {
+  auto P = gello::MakeRef<gello::TRTTIProperty>(Name, Type);
+  Owner->AddMember(P);
+  return P;
+}
 
 // The text of the assertion failure Action raises, or "<none>".
 template <typename F>

