@@ -58,6 +58,8 @@ void SetClassName(pugi::xml_node Node, const char* Name, IRTTIClass* Class);
 void ReadElement(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
 Ref<IRTTIElement> LoadElement(pugi::xml_node Node, TReading& Reading);
 Ref<IRTTIElementList> LoadList(Ref<IRTTIElementList> List, pugi::xml_node Node, TReading& Reading);
+/// The list under Parent's Role node read into a new list: empty when the node is absent.
+Ref<IRTTIElementList> LoadFreshList(pugi::xml_node Parent, const char* Role, TReading& Reading);
 void WriteSingle(IRTTIElement* Element, pugi::xml_node Parent, const char* Role, bool Always);
 void WriteList(IRTTIElementList* List, pugi::xml_node Parent, const char* Role, bool Always);
 /// Element as the I that its role needs; raises when it is of another kind.

@@ -70,6 +70,10 @@ Ref<IRTTIElementList> LoadList(Ref<IRTTIElementList> List, pugi::xml_node Node, 
   return List;
 }
 
+Ref<IRTTIElementList> LoadFreshList(pugi::xml_node Parent, const char* Role, TReading& Reading) {
+  return LoadList(MakeRef<TRTTIElementList>(), Parent.child(Role), Reading);
+}
+
 void WriteSingle(IRTTIElement* Element, pugi::xml_node Parent, const char* Role, bool Always) {
   if (Element)
     WriteXML(*Element, Parent.append_child(Role));

@@ -4,7 +4,6 @@
 #include "gello/expr/ControlNodes.h"
 #include "gello/expr/Navigation.h"
 #include "gello/model/Class.h"
-#include "gello/model/ElementList.h"
 #include "gello/model/Property.h"
 
 namespace gello::forms {
@@ -14,10 +13,6 @@ namespace {
 // and must write as it was read.
 IRTTIElementList* Params(const Ref<IRTTIElementList>& List) {
   return List && List->GetCount() > 0 ? List.get() : nullptr;
-}
-
-Ref<IRTTIElementList> LoadFreshList(pugi::xml_node Node, const char* Role, TReading& Reading) {
-  return LoadList(MakeRef<TRTTIElementList>(), Node.child(Role), Reading);
 }
 
 // The tuple type rebuilt from its values: one part per value, named and typed by it (Any for

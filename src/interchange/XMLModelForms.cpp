@@ -3,7 +3,6 @@
 #include "KindForms.h"
 #include "gello/model/Class.h"
 #include "gello/model/ClassAlias.h"
-#include "gello/model/ElementList.h"
 
 namespace gello::forms {
 namespace {
@@ -114,7 +113,7 @@ void ReadMethodXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading
   auto& Method = As<IRTTIMethod>(Element);
   if (Ref<IRTTIClass> Type = Reading.ClassNamed(Attribute(Node, "type")))
     Method.SetResultType(Type);
-  Method.SetParams(LoadList(MakeRef<TRTTIElementList>(), Node.child("parameters"), Reading));
+  Method.SetParams(LoadFreshList(Node, "parameters", Reading));
   Method.SetResultValue(LoadSingle<IRTTIValue>(Node, "value", Reading));
 }
 
