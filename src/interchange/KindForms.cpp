@@ -30,8 +30,8 @@ constexpr TKindForm CollectionValueForm{WriteCollectionValueXML, ReadCollectionV
                                         GetValueJSON, SetValueJSON};
 constexpr TKindForm PragmaForm{WritePragmaXML, ReadPragmaXML, GetValueJSON, SetValueJSON};
 
-const std::unordered_map<String, TKindForm>& Forms() {
-  static const std::unordered_map<String, TKindForm> Table{
+const std::unordered_map<StringView, TKindForm>& Forms() {
+  static const std::unordered_map<StringView, TKindForm> Table{
       {u"Element", ElementForm},
       {u"Scope", ScopeForm},
       {u"Package", PackageForm},
@@ -65,7 +65,7 @@ const std::unordered_map<String, TKindForm>& Forms() {
 
 }  // namespace
 
-const TKindForm& FormOf(const String& Kind) {
+const TKindForm& FormOf(StringView Kind) {
   auto Found = Forms().find(Kind);
   return Found == Forms().end() ? ElementForm : Found->second;
 }

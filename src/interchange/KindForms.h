@@ -41,18 +41,20 @@ struct TKindForm {
 };
 
 /// The form of a kind word; a kind without one of its own has the plain element's form.
-const TKindForm& FormOf(const String& Kind);
+const TKindForm& FormOf(StringView Kind);
 
 /// The element as the interface its kind implies; raises when a foreign class claims the kind.
 template <class I>
 I& As(IRTTIElement& Element) {
   if (auto* Result = dynamic_cast<I*>(&Element)) return *Result;
-  throw Exception(u"Element " + Element.GetName() + u" of kind " + Element.GetKind() +
+  throw Exception(u"Element " + Element.GetName() + u" of kind " + String(Element.GetKind()) +
                   u" has no form of that kind");
 }
 
 // Shared pieces of the XML parts.
 String Text(pugi::xml_node Node, const char* Name);
+/// Whether Wide holds the text of Utf8; ASCII is compared without widening it.
+bool SameText(const String& Wide, std::string_view Utf8);
 void SetText(pugi::xml_node Node, const char* Name, StringView Value);
 void SetClassName(pugi::xml_node Node, const char* Name, IRTTIClass* Class);
 void ReadElement(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
@@ -68,7 +70,7 @@ Ref<I> InRole(const Ref<IRTTIElement>& Element, const char* Role) {
   if (!Element) return nullptr;
   Ref<I> Result = DynCast<I>(Element);
   if (!Result)
-    throw Exception(u"An element of kind " + Element->GetKind() + u" cannot stand in \"" +
+    throw Exception(u"An element of kind " + String(Element->GetKind()) + u" cannot stand in \"" +
                     FromUTF8(Role) + u"\"");
   return Result;
 }

@@ -2,6 +2,8 @@
 // context.
 #include "gello/interchange/NativeXML.h"
 
+#include <algorithm>
+
 #include "KindForms.h"
 #include "gello/model/Class.h"
 #include "gello/model/ElementList.h"
@@ -24,6 +26,30 @@ Ref<IRTTIClass> TReading::ClassNamed(std::string_view Name) {
   return Class;
 }
 
+namespace {
+
+bool IsAscii(std::string_view Text) {
+  return std::all_of(Text.begin(), Text.end(),
+                     [](char C) { return static_cast<unsigned char>(C) < 0x80; });
+}
+
+// Kind words are short ASCII names: widened on the stack, they cost no allocation per element.
+Ref<IRTTIElement> CreateFromNode(pugi::xml_node Node, const String& Name) {
+  const std::string_view Kind = Node.attribute("kind").as_string();
+  char16_t Wide[32];
+  if (Kind.size() > std::size(Wide) || !IsAscii(Kind)) return CreateForReader(FromUTF8(Kind), Name);
+  std::copy(Kind.begin(), Kind.end(), Wide);
+  return CreateForReader(StringView(Wide, Kind.size()), Name);
+}
+
+}  // namespace
+
+bool SameText(const String& Wide, std::string_view Utf8) {
+  if (!IsAscii(Utf8)) return Wide == FromUTF8(Utf8);
+  return std::equal(Wide.begin(), Wide.end(), Utf8.begin(), Utf8.end(),
+                    [](char16_t W, char C) { return W == static_cast<char16_t>(C); });
+}
+
 String Text(pugi::xml_node Node, const char* Name) {
   return FromUTF8(Node.attribute(Name).as_string());
 }
@@ -43,7 +69,7 @@ void ReadElement(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) 
 
 Ref<IRTTIElement> LoadElement(pugi::xml_node Node, TReading& Reading) {
   if (!Node) return nullptr;
-  Ref<IRTTIElement> Element = CreateForReader(Text(Node, "kind"), Text(Node, "name"));
+  Ref<IRTTIElement> Element = CreateFromNode(Node, Text(Node, "name"));
   if (Element) ReadElement(*Element, Node, Reading);
   return Element;
 }
@@ -57,7 +83,7 @@ static void ReadList(IRTTIElementList& List, pugi::xml_node Node, TReading& Read
       ReadElement(*Existing, Child, Reading);
       continue;
     }
-    Ref<IRTTIElement> Element = CreateForReader(Text(Child, "kind"), Name);
+    Ref<IRTTIElement> Element = CreateFromNode(Child, Name);
     List.Add(Element);
     ReadElement(*Element, Child, Reading);
   }

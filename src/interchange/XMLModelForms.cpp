@@ -32,7 +32,9 @@ void WriteElementXML(IRTTIElement& Element, pugi::xml_node Node) {
 }
 
 void ReadElementXML(IRTTIElement& Element, pugi::xml_node Node, TReading&) {
-  Element.SetName(Text(Node, "name"));
+  // Most elements were just made under this very name.
+  if (const std::string_view Name = Attribute(Node, "name"); !SameText(Element.GetName(), Name))
+    Element.SetName(FromUTF8(Name));
   Element.SetAnnotation(Text(Node, "annotation"));
 }
 

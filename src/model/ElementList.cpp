@@ -35,7 +35,7 @@ void TRTTIElementList::IndexAdd(TItem& Item) {
   GELLO_ASSERT(Item.Element, u"Adding null element to list");
   ForgetUMLIds();
   IRTTIElement* Element = Item.Element.get();
-  const String Key = Element->GetName();
+  const String& Key = Element->GetName();
   Item.Unnamed = Key.empty();
   if (IRTTIElement* Earlier = Newest(Key)) FOlder[Key].push_back(Earlier);
   SetNewest(Key, Element);

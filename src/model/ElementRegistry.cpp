@@ -8,9 +8,15 @@
 namespace gello {
 namespace {
 
+struct TKindHash {
+  using is_transparent = void;
+  std::size_t operator()(StringView Kind) const { return std::hash<StringView>()(Kind); }
+};
+using TRegistry = std::unordered_map<String, TElementFactory, TKindHash, std::equal_to<>>;
+
 // Filled during module initialisation, before concurrent use.
-std::unordered_map<String, TElementFactory>& Registry() {
-  static std::unordered_map<String, TElementFactory> Classes;
+TRegistry& Registry() {
+  static TRegistry Classes;
   return Classes;
 }
 
@@ -29,10 +35,11 @@ std::vector<String> RegisteredKinds() {
   return Kinds;
 }
 
-Ref<IRTTIElement> CreateForReader(const String& Kind, const String& Name) {
+Ref<IRTTIElement> CreateForReader(StringView Kind, const String& Name) {
   if (Kind.empty()) return nullptr;
   auto Found = Registry().find(Kind);
-  if (Found == Registry().end()) throw Exception(u"RTTI class name not registered : TRTTI" + Kind);
+  if (Found == Registry().end())
+    throw Exception(u"RTTI class name not registered : TRTTI" + String(Kind));
   return Found->second(Name);
 }
 

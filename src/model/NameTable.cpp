@@ -25,7 +25,7 @@ IRTTIElement* TNameTable::Find(const String& Name) const {
 
 IRTTIElement* TNameTable::Put(IRTTIElement* Element) {
   if ((FCount + 1) * 2 > FSlots.size()) Grow();
-  const String Name = Element->GetName();
+  const String& Name = Element->GetName();
   const std::size_t Hash = HashOf(Name);
   TSlot& Slot = FSlots[Locate(Name, Hash)];
   IRTTIElement* Displaced = Slot.Element;

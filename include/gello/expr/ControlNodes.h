@@ -13,7 +13,7 @@ class TRTTIConditional : public TRTTIValue {
                    const Ref<IRTTIValue>& ThenPart, const Ref<IRTTIValue>& ElsePart);
   ~TRTTIConditional() override;
 
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   Ref<IRTTIValue> GetCondition() const { return FCondition; }
   void SetCondition(const Ref<IRTTIValue>& Value) { FCondition = Value; }
   Ref<IRTTIValue> GetThenPart() const { return FThenPart; }
@@ -39,7 +39,7 @@ class TRTTIStatements : public TRTTIValue {
                   const Ref<IRTTIValue>& ReturnValue);
   ~TRTTIStatements() override;
 
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   Ref<IRTTIElementList> GetDeclaratives() const { return FDeclaratives; }
   void SetDeclaratives(const Ref<IRTTIElementList>& Value) { FDeclaratives = Value; }
   Ref<IRTTIValue> GetReturnValue() const { return FReturnValue; }
@@ -61,7 +61,7 @@ class TRTTITupleValue : public TRTTIValue {
   TRTTITupleValue(const Ref<IRTTIClass>& ResultType, const Ref<IRTTIElementList>& Values);
   ~TRTTITupleValue() override;
 
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   Ref<IRTTIElementList> GetValues() const { return FValues; }
   void SetValues(const Ref<IRTTIElementList>& Value) { FValues = Value; }
 
@@ -80,7 +80,7 @@ class TRTTICollectionValue : public TRTTIValue {
   TRTTICollectionValue(const Ref<IRTTIClass>& ResultType, const Ref<IRTTIElementList>& Elements);
   ~TRTTICollectionValue() override;
 
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   Ref<IRTTIElementList> GetElements() const { return FElements; }
   void SetElements(const Ref<IRTTIElementList>& Value) { FElements = Value; }
 
@@ -100,7 +100,7 @@ class TRTTIPragma : public TRTTIValue {
               const Ref<IRTTIElementList>& Pragmas);
   ~TRTTIPragma() override;
 
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   String Getdirective() const { return Fdirective; }
   void Setdirective(const String& Value) { Fdirective = Value; }
   Ref<IRTTIElementList> Getpragmas() const { return Fpragmas; }

@@ -9,7 +9,7 @@ class TRTTIGeneric : public TRTTIClass {
  public:
   static constexpr StringView KindName = u"Generic";
   using TRTTIClass::TRTTIClass;
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   bool IsGeneric() const override { return true; }
 };
 

@@ -11,7 +11,7 @@ class TRTTILiteral : public TRTTIValue, public virtual IRTTILiteral {
  public:
   static constexpr StringView KindName = u"Literal";
   using TRTTIValue::TRTTIValue;
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
 };
 
 /// A constant kept as its text, unchanged; read for the plain kind "Literal".
@@ -31,7 +31,7 @@ class TRTTIStringLiteral : public TRTTITextLiteral {
  public:
   static constexpr StringView KindName = u"StringLiteral";
   using TRTTITextLiteral::TRTTITextLiteral;
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
 };
 
 /// A 64-bit integer constant whose text is read back as a 32-bit integer.
@@ -40,7 +40,7 @@ class TRTTIIntegerLiteral : public TRTTILiteral {
   static constexpr StringView KindName = u"IntegerLiteral";
   explicit TRTTIIntegerLiteral(const String& Name) : TRTTILiteral(Name) {}
   TRTTIIntegerLiteral(const Ref<IRTTIClass>& Class, std::int64_t Value);
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   std::int64_t GetValue() const { return FValue; }
   String GetasString() const override { return IntToStr(FValue); }
   /// Raises EConvertError for text that is not a 32-bit decimal integer; the value is kept.
@@ -56,7 +56,7 @@ class TRTTIRealLiteral : public TRTTILiteral {
   static constexpr StringView KindName = u"RealLiteral";
   explicit TRTTIRealLiteral(const String& Name) : TRTTILiteral(Name) {}
   TRTTIRealLiteral(const Ref<IRTTIClass>& Class, double Value);
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   double GetValue() const { return FValue; }
   String GetasString() const override;
   void SetasString(const String& Value) override;
@@ -73,7 +73,7 @@ class TRTTIBooleanLiteral : public TRTTILiteral {
   TRTTIBooleanLiteral(const Ref<IRTTIClass>& Class, TRTTIExtendedBoolean Value);
   /// A plain boolean keeps its ordinal: false is rtti_false, true is rtti_true.
   TRTTIBooleanLiteral(const Ref<IRTTIClass>& Class, bool Value);
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   TRTTIExtendedBoolean GetValue() const { return FValue; }
   String GetasString() const override { return ExtendedBooleanToString(FValue); }
   void SetasString(const String& Value) override { FValue = StringToExtendedBoolean(Value); }
@@ -88,7 +88,7 @@ class TRTTINullLiteral : public TRTTILiteral {
   static constexpr StringView KindName = u"NullLiteral";
   explicit TRTTINullLiteral(const String& Name) : TRTTILiteral(Name) {}
   explicit TRTTINullLiteral(const Ref<IRTTIClass>& Class) : TRTTILiteral(Class) {}
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   String GetasString() const override { return u"null"; }
   void SetasString(const String&) override {}
 };
@@ -98,7 +98,7 @@ class TRTTIClassLiteral : public TRTTITextLiteral {
  public:
   static constexpr StringView KindName = u"ClassLiteral";
   using TRTTITextLiteral::TRTTITextLiteral;
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
 };
 
 /// A literal of an enumeration: its text is its name, its ordinal its position.
@@ -107,7 +107,7 @@ class TRTTIEnumLiteral : public TRTTILiteral {
   static constexpr StringView KindName = u"EnumLiteral";
   explicit TRTTIEnumLiteral(const String& Name) : TRTTILiteral(Name) {}
   TRTTIEnumLiteral(const String& Name, const Ref<IRTTIClass>& Class, std::int32_t Ordinal);
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   std::int32_t GetOrdinal() const { return FOrdinal; }
   String GetasString() const override { return GetName(); }
   /// Names the literal; names are write-once.

@@ -14,7 +14,7 @@ class TRTTIMethodCall : public TRTTIValue {
                   const Ref<IRTTIMethod>& MethodRef);
   ~TRTTIMethodCall() override;
 
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   Ref<IRTTIValue> Getclassref() const { return Fclassref; }
   void Setclassref(const Ref<IRTTIValue>& Value) { Fclassref = Value; }
   Ref<IRTTIElementList> Getparams() const { return Fparams; }
@@ -41,7 +41,7 @@ class TRTTIPropertyRef : public TRTTIValue {
                    const Ref<IRTTIValue>& ClassRef);
   ~TRTTIPropertyRef() override;
 
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   Ref<IRTTIValue> Getclassref() const { return Fclassref; }
   void Setclassref(const Ref<IRTTIValue>& Value) { Fclassref = Value; }
 
@@ -62,7 +62,7 @@ class TRTTICollectionMethod : public TRTTIValue {
                         const Ref<IRTTIProperty>& Accum, const Ref<IRTTIElementList>& Params);
   ~TRTTICollectionMethod() override;
 
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   Ref<IRTTIValue> Getclassref() const { return Fclassref; }
   void Setclassref(const Ref<IRTTIValue>& Value) { Fclassref = Value; }
   Ref<IRTTIProperty> Getiterator() const { return Fiterator; }

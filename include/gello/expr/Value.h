@@ -14,7 +14,7 @@ class TRTTIValue : public TRTTIElement, public virtual IRTTIValue {
   explicit TRTTIValue(const Ref<IRTTIClass>& ValueType);
   ~TRTTIValue() override;
 
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   Ref<IRTTIClass> GetValueType() const override { return FValueType; }
   void SetValueType(const Ref<IRTTIClass>& Value) override { FValueType = Value; }
   void Resolve(IRTTIScope* Scope) override;

@@ -14,7 +14,7 @@ class TRTTIClass : public TRTTIScope, public virtual IRTTIClass {
                       const Ref<IRTTIClass>& ElementType = nullptr);
   ~TRTTIClass() override;
 
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   bool AddMember(const Ref<IRTTIElement>& Element) override;
   Ref<IRTTIElement> Lookup(const String& Name, const GUID& InterfaceId) override;
   Ref<IRTTIElementList> LookupAll(const String& Name, const GUID& InterfaceId) override;

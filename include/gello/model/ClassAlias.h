@@ -12,7 +12,7 @@ class TRTTIClassAlias : public TRTTIScope, public virtual IRTTIClass {
   TRTTIClassAlias(const String& Name, const Ref<IRTTIClass>& ActualClass);
   ~TRTTIClassAlias() override;
 
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   Ref<IRTTIClass> GetActualClass() const { return FActualClass; }
   /// Fails an assertion for an empty class.
   void SetActualClass(const Ref<IRTTIClass>& Value);

@@ -13,7 +13,7 @@ class TRTTIElement : public virtual IRTTIElement {
   explicit TRTTIElement(const String& Name = {});
   ~TRTTIElement() override;
 
-  String GetName() const override { return FName; }
+  const String& GetName() const override { return FName; }
   void SetName(const String& Value) override;
   bool IsNamed(const String& Name) const override { return FName == Name; }
   String GetAnnotation() const override { return FAnnotation; }
@@ -24,8 +24,8 @@ class TRTTIElement : public virtual IRTTIElement {
   void SetHidden(bool Value) override { FHidden = Value; }
   bool GetResolved() const override { return FResolved; }
   void SetResolved(bool Value) override { FResolved = Value; }
-  String GetKind() const override { return String(KindName); }
-  String ExternalTypeName() const override { return GetKind(); }
+  StringView GetKind() const override { return KindName; }
+  String ExternalTypeName() const override { return String(GetKind()); }
   GUID GetGUID() override;
   String GetUML_ID() override;
   void SetUML_ID(const String& Value) override;

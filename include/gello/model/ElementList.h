@@ -70,7 +70,7 @@ class TRTTIElementList : public virtual IRTTIElementList {
   // How often each element is held, so that Exists and Include need not scan; kept only once
   // the list has grown past a few items, since most lists are short and scanning them is cheaper
   // than a table per list.
-  static constexpr std::size_t ScanLimit = 8;
+  static constexpr std::size_t ScanLimit = 16;
   std::unordered_map<IRTTIElement*, int> FHeld;
   bool FHeldKept = false;
 };

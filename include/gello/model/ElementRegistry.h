@@ -30,6 +30,6 @@ void RegisterRTTI(std::initializer_list<TRTTIElementClass> Classes);
 std::vector<String> RegisteredKinds();
 
 /// A new element of that kind and name; empty for an empty kind; raises for an unknown kind.
-Ref<IRTTIElement> CreateForReader(const String& Kind, const String& Name);
+Ref<IRTTIElement> CreateForReader(StringView Kind, const String& Name);
 
 }  // namespace gello

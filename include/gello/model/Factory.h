@@ -9,7 +9,7 @@ class TRTTIFactory : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"Factory";
   using TRTTIValue::TRTTIValue;
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
 };
 
 }  // namespace gello

@@ -11,7 +11,7 @@ class TRTTIGlobals : public TRTTIPackage, public virtual IRTTIGlobals {
   TRTTIGlobals();
   ~TRTTIGlobals() override;
 
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   Ref<IRTTIClass> Get_Any() const override { return FAny; }
   Ref<IRTTIClass> Get_Bag() const override { return FBag; }
   Ref<IRTTIClass> Get_Boolean() const override { return FBoolean; }

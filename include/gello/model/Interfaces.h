@@ -40,7 +40,7 @@ struct IRTTIDebugInfo : virtual RefCounted {
 /// Every thing in a model: identity, naming, resolution and the default type answers.
 struct IRTTIElement : virtual RefCounted {
   static constexpr GUID IID = GUIDLiteral("{0E8BD1BB-A38F-460C-BA75-678A75567A22}");
-  virtual String GetName() const = 0;
+  virtual const String& GetName() const = 0;
   virtual void SetName(const String& Value) = 0;
   /// Whether the name is Name (compares without copying it).
   virtual bool IsNamed(const String& Name) const = 0;
@@ -52,7 +52,8 @@ struct IRTTIElement : virtual RefCounted {
   virtual void SetHidden(bool Value) = 0;
   virtual bool GetResolved() const = 0;
   virtual void SetResolved(bool Value) = 0;
-  virtual String GetKind() const = 0;
+  /// The class name without its "TRTTI" prefix; the text lives as long as the program.
+  virtual StringView GetKind() const = 0;
   virtual String ExternalTypeName() const = 0;
   virtual GUID GetGUID() = 0;
   virtual String GetUML_ID() = 0;

@@ -15,7 +15,7 @@ class TRTTIMethod : public TRTTIElement, public virtual IRTTIMethod {
               const Ref<IRTTIElementList>& Params = nullptr);
   ~TRTTIMethod() override;
 
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   bool GetCollectionOp() const override { return FCollectionOp; }
   Ref<IRTTIElementList> GetParams() const override { return FParams; }
   Ref<IRTTIClass> GetResultType() const override { return FResultType; }

@@ -13,7 +13,7 @@ class TRTTIPackage : public TRTTIScope, public virtual IRTTIPackage {
   explicit TRTTIPackage(const String& Name);
   ~TRTTIPackage() override;
 
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   Ref<IRTTIElementList> GetImports() const override { return FImports; }
   void SetImports(const Ref<IRTTIElementList>& Value) override { FImports = Value; }
   Ref<IRTTIValue> GetMainBlock() const override { return FMainBlock; }

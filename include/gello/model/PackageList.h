@@ -9,7 +9,7 @@ class TRTTIPackageList : public TRTTIScope, public virtual IRTTIPackageList {
  public:
   static constexpr StringView KindName = u"PackageList";
   explicit TRTTIPackageList(const String& Name = {}) : TRTTIScope(Name) {}
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   Ref<IRTTIPackage> FindPackage(const String& Name) override { return Find<IRTTIPackage>(Name); }
 };
 

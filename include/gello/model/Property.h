@@ -15,7 +15,7 @@ class TRTTIProperty : public TRTTIElement, public virtual IRTTIProperty {
                 TPropInfo PropInfo = nullptr);
   ~TRTTIProperty() override;
 
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   std::int32_t GetGetterVMTIndex() const override { return FGetterVMTIndex; }
   std::int32_t GetPropertyIndex() const override { return FPropertyIndex; }
   Ref<IRTTIClass> GetPropertyType() const override { return FPropertyType; }

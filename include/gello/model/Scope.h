@@ -12,7 +12,7 @@ class TRTTIScope : public TRTTIElement, public virtual IRTTIScope {
   explicit TRTTIScope(const String& Name = {}, bool OwnsMembers = false);
   ~TRTTIScope() override;
 
-  String GetKind() const override { return String(KindName); }
+  StringView GetKind() const override { return KindName; }
   Ref<IRTTIElementList> GetMembers() const override { return FMembers; }
   void SetMembers(const Ref<IRTTIElementList>& Value) override { FMembers = Value; }
   /// Made on first request: most scopes (classes) never hold statements.
