@@ -5,12 +5,15 @@
 #include <unistd.h>
 #include <pugixml.hpp>
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "gello/expr/ControlNodes.h"
 #include "gello/expr/Literals.h"
 #include "gello/expr/Navigation.h"
+#include "gello/interchange/XMLDocument.h"
 #include "gello/model/Class.h"
 #include "gello/model/ElementList.h"
 #include "gello/model/Globals.h"
@@ -127,9 +130,39 @@ void BM_BareParse(benchmark::State& State) {
   }
 }
 
+// The document alone, as a load reads it: the share of a load that is not its elements.
+void BM_LoadDocument(benchmark::State& State) {
+  const String Path = File().Path.u16string();
+  for (auto _ : State) {
+    pugi::xml_document Document;
+    LoadXMLDocument(Document, Path);
+    State.PauseTiming();
+    Document.reset();
+    State.ResumeTiming();
+  }
+}
+
+// The machine this runs on is shared: a load's best time is the steadiest figure beside the median.
+double Fastest(const std::vector<double>& Times) {
+  return *std::min_element(Times.begin(), Times.end());
+}
+
 }  // namespace
 
 BENCHMARK(BM_Save)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(3);
-BENCHMARK(BM_Load)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(3);
-BENCHMARK(BM_BareParse)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(3);
+BENCHMARK(BM_Load)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->Repetitions(5)
+    ->ComputeStatistics("min", Fastest);
+BENCHMARK(BM_LoadDocument)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->Repetitions(5)
+    ->ComputeStatistics("min", Fastest);
+BENCHMARK(BM_BareParse)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->Repetitions(5)
+    ->ComputeStatistics("min", Fastest);
 BENCHMARK_MAIN();

@@ -2,7 +2,7 @@
 
 namespace gello {
 
-TRTTIValue::TRTTIValue(const String& Name) : TRTTIElement(Name) {}
+TRTTIValue::TRTTIValue(String Name) : TRTTIElement(std::move(Name)) {}
 
 TRTTIValue::TRTTIValue(const Ref<IRTTIClass>& ValueType) : FValueType(ValueType) {}
 

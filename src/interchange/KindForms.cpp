@@ -1,6 +1,8 @@
 // The table of forms by kind word.
 #include "KindForms.h"
 
+#include <unordered_map>
+
 namespace gello::forms {
 namespace {
 

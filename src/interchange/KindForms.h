@@ -2,10 +2,10 @@
 // The native XML and JSON forms of each element kind, found by kind word. Each kind's parts
 // call its base kind's parts first, so a kind adds only its own attributes, nodes and keys.
 #include <pugixml.hpp>
-#include <string>
 #include <string_view>
-#include <unordered_map>
 
+#include "ClassNames.h"
+#include "gello/foundation/CachedCast.h"
 #include "gello/foundation/Exceptions.h"
 #include "gello/foundation/JSON.h"
 #include "gello/model/Interfaces.h"
@@ -22,14 +22,8 @@ class TReading {
   Ref<IRTTIClass> ClassNamed(std::string_view Name);
 
  private:
-  struct THash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view Text) const {
-      return std::hash<std::string_view>()(Text);
-    }
-  };
   IRTTIGlobals* FGlobals;
-  std::unordered_map<std::string, Ref<IRTTIClass>, THash, std::equal_to<>> FClasses;
+  TClassNames FClasses;
 };
 
 /// The parts of one kind.
@@ -46,7 +40,7 @@ const TKindForm& FormOf(StringView Kind);
 /// The element as the interface its kind implies; raises when a foreign class claims the kind.
 template <class I>
 I& As(IRTTIElement& Element) {
-  if (auto* Result = dynamic_cast<I*>(&Element)) return *Result;
+  if (auto* Result = CachedCast<I>(&Element)) return *Result;
   throw Exception(u"Element " + Element.GetName() + u" of kind " + String(Element.GetKind()) +
                   u" has no form of that kind");
 }

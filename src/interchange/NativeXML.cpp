@@ -14,7 +14,7 @@ namespace forms {
 
 Ref<IRTTIClass> TReading::ClassNamed(std::string_view Name) {
   if (Name.empty()) return nullptr;
-  if (auto Found = FClasses.find(Name); Found != FClasses.end()) return Found->second;
+  if (IRTTIClass* Found = FClasses.Find(Name)) return Ref<IRTTIClass>(Found);
   const String Text = FromUTF8(Name);
   Ref<IRTTIClass> Class;
   // A qualified name is looked for in its own package; otherwise, as any name the loaded
@@ -22,7 +22,7 @@ Ref<IRTTIClass> TReading::ClassNamed(std::string_view Name) {
   if (FGlobals && Text.find(u"::") != String::npos && Text.find(u'(') == String::npos)
     Class = FGlobals->FindAddClass(Text, FGlobals);
   if (!Class) Class = FGlobals ? FGlobals->BuildClass(Text) : BuildClassRef(Text);
-  FClasses.emplace(Name, Class);
+  FClasses.Add(Name, Class);
   return Class;
 }
 
@@ -34,12 +34,13 @@ bool IsAscii(std::string_view Text) {
 }
 
 // Kind words are short ASCII names: widened on the stack, they cost no allocation per element.
-Ref<IRTTIElement> CreateFromNode(pugi::xml_node Node, const String& Name) {
+Ref<IRTTIElement> CreateFromNode(pugi::xml_node Node, String Name) {
   const std::string_view Kind = Node.attribute("kind").as_string();
   char16_t Wide[32];
-  if (Kind.size() > std::size(Wide) || !IsAscii(Kind)) return CreateForReader(FromUTF8(Kind), Name);
+  if (Kind.size() > std::size(Wide) || !IsAscii(Kind))
+    return CreateForReader(FromUTF8(Kind), std::move(Name));
   std::copy(Kind.begin(), Kind.end(), Wide);
-  return CreateForReader(StringView(Wide, Kind.size()), Name);
+  return CreateForReader(StringView(Wide, Kind.size()), std::move(Name));
 }
 
 }  // namespace
@@ -78,12 +79,12 @@ static void ReadList(IRTTIElementList& List, pugi::xml_node Node, TReading& Read
   GELLO_ASSERT(Node, u"Trying to read nil xml node in model");
   for (pugi::xml_node Child : Node.children()) {
     if (Child.type() != pugi::node_element) continue;
-    const String Name = Text(Child, "name");
+    String Name = Text(Child, "name");
     if (Ref<IRTTIElement> Existing = List.GetMergeElements() ? List.GetItemByName(Name) : nullptr) {
       ReadElement(*Existing, Child, Reading);
       continue;
     }
-    Ref<IRTTIElement> Element = CreateFromNode(Child, Name);
+    Ref<IRTTIElement> Element = CreateFromNode(Child, std::move(Name));
     List.Add(Element);
     ReadElement(*Element, Child, Reading);
   }

@@ -3,6 +3,7 @@
 #include "KindForms.h"
 #include "gello/model/Class.h"
 #include "gello/model/ClassAlias.h"
+#include "gello/model/ElementList.h"
 
 namespace gello::forms {
 namespace {
@@ -84,8 +85,9 @@ void ReadClassXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading)
     Class.SetAncestor(Ancestor);
   std::string ElementName(Attribute(Node, "elementtype"));
   // Set(Integer) read without an element type has Integer.
-  if (auto* Generic = dynamic_cast<TRTTIClass*>(&Element); ElementName.empty() && Generic)
-    ElementName = ToUTF8(Generic->ExtractElementName());
+  if (ElementName.empty())
+    if (auto* Generic = CachedCast<TRTTIClass>(&Element))
+      ElementName = ToUTF8(Generic->ExtractElementName());
   if (Ref<IRTTIClass> ElementType = Reading.ClassNamed(ElementName))
     Class.SetElementType(ElementType);
   Class.SetEnums(LoadList(nullptr, Node.child("enums"), Reading));
@@ -115,7 +117,10 @@ void ReadMethodXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading
   auto& Method = As<IRTTIMethod>(Element);
   if (Ref<IRTTIClass> Type = Reading.ClassNamed(Attribute(Node, "type")))
     Method.SetResultType(Type);
-  Method.SetParams(LoadFreshList(Node, "parameters", Reading));
+  // A new method's own empty list takes the parameters; one that has some gets a fresh list.
+  Ref<IRTTIElementList> Params = Method.GetParams();
+  if (!Params || Params->GetCount() > 0) Params = MakeRef<TRTTIElementList>();
+  Method.SetParams(LoadList(Params, Node.child("parameters"), Reading));
   Method.SetResultValue(LoadSingle<IRTTIValue>(Node, "value", Reading));
 }
 

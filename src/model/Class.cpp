@@ -15,9 +15,9 @@ enum : std::uint32_t {
 };
 }  // namespace
 
-TRTTIClass::TRTTIClass(const String& Name, const Ref<IRTTIClass>& Ancestor,
+TRTTIClass::TRTTIClass(String Name, const Ref<IRTTIClass>& Ancestor,
                        const Ref<IRTTIClass>& ElementType)
-    : TRTTIScope(Name, true), FElementType(ElementType) {
+    : TRTTIScope(std::move(Name), true), FElementType(ElementType) {
   TRTTIClass::SetAncestor(Ancestor);
 }
 

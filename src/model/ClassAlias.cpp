@@ -7,7 +7,7 @@
 
 namespace gello {
 
-TRTTIClassAlias::TRTTIClassAlias(const String& Name) : TRTTIScope(Name) {}
+TRTTIClassAlias::TRTTIClassAlias(String Name) : TRTTIScope(std::move(Name)) {}
 
 TRTTIClassAlias::TRTTIClassAlias(const String& Name, const Ref<IRTTIClass>& ActualClass)
     : TRTTIScope(Name), FActualClass(ActualClass) {}

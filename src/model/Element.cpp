@@ -22,10 +22,31 @@ std::uint64_t UMLIdEpoch() {
   return Epoch.load();
 }
 
-TRTTIElement::TRTTIElement(const String& Name) : FName(Name) {}
+TRTTIElement::TRTTIElement(String Name) : FName(std::move(Name)) {}
 
 TRTTIElement::~TRTTIElement() {
   TRTTIElement::Clear();
+}
+
+TRTTIElement::TExtras& TRTTIElement::Extras() {
+  if (!FExtras) FExtras = std::make_unique<TExtras>();
+  return *FExtras;
+}
+
+String TRTTIElement::GetAnnotation() const {
+  return FExtras ? FExtras->Annotation : String();
+}
+
+void TRTTIElement::SetAnnotation(const String& Value) {
+  if (FExtras || !Value.empty()) Extras().Annotation = Value;
+}
+
+Ref<IRTTIDebugInfo> TRTTIElement::GetDebugInfo() const {
+  return FExtras ? FExtras->DebugInfo : nullptr;
+}
+
+void TRTTIElement::SetDebugInfo(const Ref<IRTTIDebugInfo>& Value) {
+  if (FExtras || Value) Extras().DebugInfo = Value;
 }
 
 void TRTTIElement::SetName(const String& Value) {
@@ -36,26 +57,29 @@ void TRTTIElement::SetName(const String& Value) {
 }
 
 GUID TRTTIElement::GetGUID() {
-  if (IsNullGUID(FGUID)) {
-    FGUID = GUID::Create();
+  GUID& Id = Extras().Id;
+  if (IsNullGUID(Id)) {
+    Id = GUID::Create();
     ++Epoch;
   }
-  return FGUID;
+  return Id;
 }
 
 String TRTTIElement::GetUML_ID() {
-  if (FUML_ID.empty()) FUML_ID = UMLIdOf(GetGUID());
-  return FUML_ID;
+  String& Own = Extras().UML_ID;
+  if (Own.empty()) Own = UMLIdOf(GetGUID());
+  return Own;
 }
 
 void TRTTIElement::SetUML_ID(const String& Value) {
-  FUML_ID = Value;
+  Extras().UML_ID = Value;
   ++Epoch;
 }
 
 String TRTTIElement::PeekUML_ID() const {
-  if (!FUML_ID.empty() || IsNullGUID(FGUID)) return FUML_ID;
-  return UMLIdOf(FGUID);
+  if (!FExtras) return String();
+  if (!FExtras->UML_ID.empty() || IsNullGUID(FExtras->Id)) return FExtras->UML_ID;
+  return UMLIdOf(FExtras->Id);
 }
 
 void TRTTIElement::Resolve(IRTTIScope*) {
@@ -73,7 +97,7 @@ bool TRTTIElement::Derives(IRTTIClass*, IRTTIElementList&) {
 void TRTTIElement::WalkClasses(IRTTIElementList&) {}
 
 void TRTTIElement::Clear() {
-  FDebugInfo = nullptr;
+  if (FExtras) FExtras->DebugInfo = nullptr;
 }
 
 Ref<IRTTIClass> ResolveClass(const Ref<IRTTIClass>& Class, IRTTIScope* Scope) {

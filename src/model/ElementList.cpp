@@ -1,16 +1,80 @@
 #include "gello/model/ElementList.h"
 
 #include <algorithm>
-#include <map>
+#include <numeric>
+#include <unordered_map>
 
 #include "gello/foundation/Exceptions.h"
 #include "gello/model/Element.h"
+#include "gello/model/NameTable.h"
 
 namespace gello {
+
+// The tables of a long list: the newest element of each name (named ones in a compact table, the
+// newest unnamed one beside it), the earlier elements of names held more than once, oldest first,
+// and how often each element is held.
+struct TRTTIElementList::TIndex {
+  TNameTable Names;
+  IRTTIElement* Unnamed = nullptr;
+  std::unordered_map<String, std::vector<IRTTIElement*>> Older;
+  std::unordered_map<IRTTIElement*, int> Held;
+
+  IRTTIElement* Newest(const String& Key) const { return Key.empty() ? Unnamed : Names.Find(Key); }
+
+  void SetNewest(const String& Key, IRTTIElement* Element) {
+    if (Key.empty())
+      Unnamed = Element;
+    else if (Element)
+      Names.Put(Element);
+    else
+      Names.Erase(Key);
+  }
+
+  void Add(const String& Key, IRTTIElement* Element) {
+    if (IRTTIElement* Earlier = Newest(Key)) Older[Key].push_back(Earlier);
+    SetNewest(Key, Element);
+    ++Held[Element];
+  }
+
+  void Remove(const String& Key, IRTTIElement* Element) {
+    auto Count = Held.find(Element);
+    if (--Count->second == 0) Held.erase(Count);
+    auto Earlier = Older.find(Key);
+    if (Earlier == Older.end()) {
+      SetNewest(Key, nullptr);  // the last of its name
+      return;
+    }
+    std::vector<IRTTIElement*>& Elements = Earlier->second;
+    if (Newest(Key) == Element) {
+      SetNewest(Key, Elements.back());
+      Elements.pop_back();
+    } else {
+      Elements.erase(std::find(Elements.rbegin(), Elements.rend(), Element).base() - 1);
+    }
+    if (Elements.empty()) Older.erase(Earlier);
+  }
+};
+
+// An element without any UML id would get a fresh random one, which no given id can equal, so
+// it need not be given one here.
+struct TRTTIElementList::TUMLIndex {
+  std::unordered_map<String, IRTTIElement*> ById;
+  std::uint64_t Epoch = 0;
+  bool Valid = false;
+};
+
+TRTTIElementList::TRTTIElementList() = default;
+
+TRTTIElementList::~TRTTIElementList() = default;
 
 TRTTIElementList::TRTTIElementList(std::initializer_list<Ref<IRTTIElement>> Elements) {
   for (const Ref<IRTTIElement>& Element : Elements)
     Add(Element);
+}
+
+const String& TRTTIElementList::KeyOf(const TItem& Item) {
+  static const String Unnamed;
+  return Item.Unnamed ? Unnamed : Item.Element->GetName();
 }
 
 void TRTTIElementList::CheckIndex(int Index, int Limit) const {
@@ -18,70 +82,81 @@ void TRTTIElementList::CheckIndex(int Index, int Limit) const {
     throw Exception(u"List index out of bounds (" + IntToStr(Index) + u")");
 }
 
-IRTTIElement* TRTTIElementList::Newest(const String& Key) const {
-  return Key.empty() ? FUnnamed : FNames.Find(Key);
+TRTTIElementList::TItem TRTTIElementList::NewItem(const Ref<IRTTIElement>& Element) {
+  GELLO_ASSERT(Element, u"Adding null element to list");
+  if (FAdded == UINT32_MAX) Renumber();
+  return TItem{Element, Element->GetName().empty(), FAdded++};
 }
 
-void TRTTIElementList::SetNewest(const String& Key, IRTTIElement* Element) {
-  if (Key.empty())
-    FUnnamed = Element;
-  else if (Element)
-    FNames.Put(Element);
-  else
-    FNames.Erase(Key);
+void TRTTIElementList::ForgetUMLIds() {
+  if (FUMLIds) FUMLIds->Valid = false;
 }
 
-void TRTTIElementList::IndexAdd(TItem& Item) {
-  GELLO_ASSERT(Item.Element, u"Adding null element to list");
+// The positions of the items, oldest first.
+std::vector<std::size_t> TRTTIElementList::ByAge() const {
+  std::vector<std::size_t> Result(FItems.size());
+  std::iota(Result.begin(), Result.end(), 0);
+  std::sort(Result.begin(), Result.end(),
+            [this](std::size_t A, std::size_t B) { return FItems[A].Added < FItems[B].Added; });
+  return Result;
+}
+
+void TRTTIElementList::BuildIndex() {
+  FIndex = std::make_unique<TIndex>();
+  for (std::size_t i : ByAge())
+    FIndex->Add(KeyOf(FItems[i]), FItems[i].Element.get());
+}
+
+// The count of additions has run out: the items keep their order of age under fresh numbers.
+void TRTTIElementList::Renumber() {
+  FAdded = 0;
+  for (std::size_t i : ByAge())
+    FItems[i].Added = FAdded++;
+}
+
+// Called once Item is in FItems.
+void TRTTIElementList::IndexAdd(const TItem& Item) {
   ForgetUMLIds();
-  IRTTIElement* Element = Item.Element.get();
-  const String& Key = Element->GetName();
-  Item.Unnamed = Key.empty();
-  if (IRTTIElement* Earlier = Newest(Key)) FOlder[Key].push_back(Earlier);
-  SetNewest(Key, Element);
-  if (!FHeldKept && FItems.size() >= ScanLimit) {
-    for (const TItem& Held : FItems)
-      ++FHeld[Held.Element.get()];
-    FHeldKept = true;
-  }
-  if (FHeldKept) ++FHeld[Element];
+  if (FIndex)
+    FIndex->Add(KeyOf(Item), Item.Element.get());
+  else if (FItems.size() > ScanLimit)
+    BuildIndex();
 }
 
+// Called while Item is still in FItems.
 void TRTTIElementList::IndexRemove(const TItem& Item) {
   ForgetUMLIds();
-  IRTTIElement* Element = Item.Element.get();
-  if (FHeldKept) {
-    auto Held = FHeld.find(Element);
-    if (--Held->second == 0) FHeld.erase(Held);
-  }
-  const String Key = Item.Unnamed ? String() : Element->GetName();
-  auto Older = FOlder.find(Key);
-  if (Older == FOlder.end()) {
-    SetNewest(Key, nullptr);  // the last of its name
-    return;
-  }
-  std::vector<IRTTIElement*>& Earlier = Older->second;
-  if (Newest(Key) == Element) {
-    SetNewest(Key, Earlier.back());
-    Earlier.pop_back();
-  } else {
-    Earlier.erase(std::find(Earlier.rbegin(), Earlier.rend(), Element).base() - 1);
-  }
-  if (Earlier.empty()) FOlder.erase(Older);
+  if (FIndex) FIndex->Remove(KeyOf(Item), Item.Element.get());
+}
+
+bool TRTTIElementList::IsKeyed(const TItem& Item, const String& Key) {
+  return Key.empty() ? Item.Unnamed : !Item.Unnamed && Item.Element->GetName() == Key;
+}
+
+std::vector<const TRTTIElementList::TItem*> TRTTIElementList::Named(const String& Key) const {
+  std::vector<const TItem*> Result;
+  for (std::size_t i : ByAge())
+    if (IsKeyed(FItems[i], Key)) Result.push_back(&FItems[i]);
+  return Result;
+}
+
+IRTTIElement* TRTTIElementList::Newest(const String& Key) const {
+  if (FIndex) return FIndex->Newest(Key);
+  const TItem* Found = nullptr;
+  for (const TItem& Item : FItems)
+    if (IsKeyed(Item, Key) && (!Found || Item.Added > Found->Added)) Found = &Item;
+  return Found ? Found->Element.get() : nullptr;
 }
 
 int TRTTIElementList::Add(const Ref<IRTTIElement>& Element) {
-  TItem Item{Element, false};
-  IndexAdd(Item);
-  FItems.push_back(std::move(Item));
+  FItems.push_back(NewItem(Element));
+  IndexAdd(FItems.back());
   return GetCount() - 1;
 }
 
 void TRTTIElementList::Insert(int Index, const Ref<IRTTIElement>& Element) {
   CheckIndex(Index, GetCount() + 1);
-  TItem Item{Element, false};
-  IndexAdd(Item);
-  FItems.insert(FItems.begin() + Index, std::move(Item));
+  IndexAdd(*FItems.insert(FItems.begin() + Index, NewItem(Element)));
 }
 
 void TRTTIElementList::Delete(int Index) {
@@ -92,16 +167,12 @@ void TRTTIElementList::Delete(int Index) {
 
 void TRTTIElementList::Clear() {
   FItems.clear();
+  FIndex.reset();
   ForgetUMLIds();
-  FNames.Clear();
-  FUnnamed = nullptr;
-  FOlder.clear();
-  FHeld.clear();
-  FHeldKept = false;
 }
 
 bool TRTTIElementList::Exists(IRTTIElement* Element) const {
-  if (FHeldKept) return FHeld.contains(Element);
+  if (FIndex) return FIndex->Held.contains(Element);
   return std::any_of(FItems.begin(), FItems.end(),
                      [Element](const TItem& Item) { return Item.Element.get() == Element; });
 }
@@ -135,10 +206,10 @@ Ref<IRTTIElement> TRTTIElementList::GetItems(int Index) const {
 
 void TRTTIElementList::SetItems(int Index, const Ref<IRTTIElement>& Element) {
   CheckIndex(Index, GetCount());
-  TItem Item{Element, false};
-  IndexAdd(Item);
+  TItem Item = NewItem(Element);
   IndexRemove(FItems[Index]);
   FItems[Index] = std::move(Item);
+  IndexAdd(FItems[Index]);
 }
 
 Ref<IRTTIElement> TRTTIElementList::GetItemByName(const String& Name) const {
@@ -154,24 +225,31 @@ void TRTTIElementList::SetItemByName(const String& Name, const Ref<IRTTIElement>
 }
 
 Ref<IRTTIElement> TRTTIElementList::GetItemByUMLID(const String& Id) const {
-  if (!FUMLValid || FUMLEpoch != UMLIdEpoch()) {
-    FByUMLId.clear();
+  if (!FUMLIds) FUMLIds = std::make_unique<TUMLIndex>();
+  TUMLIndex& Ids = *FUMLIds;
+  if (!Ids.Valid || Ids.Epoch != UMLIdEpoch()) {
+    Ids.ById.clear();
     for (const TItem& Item : FItems) {
       String Own = Item.Element->PeekUML_ID();
-      if (!Own.empty()) FByUMLId.try_emplace(std::move(Own), Item.Element.get());
+      if (!Own.empty()) Ids.ById.try_emplace(std::move(Own), Item.Element.get());
     }
-    FUMLEpoch = UMLIdEpoch();
-    FUMLValid = true;
+    Ids.Epoch = UMLIdEpoch();
+    Ids.Valid = true;
   }
-  auto Found = FByUMLId.find(Id);
-  return Found == FByUMLId.end() ? nullptr : Ref<IRTTIElement>(Found->second);
+  auto Found = Ids.ById.find(Id);
+  return Found == Ids.ById.end() ? nullptr : Ref<IRTTIElement>(Found->second);
 }
 
 Ref<IRTTIElementList> TRTTIElementList::ItemsByName(const String& Name) const {
   auto Result = MakeRef<TRTTIElementList>();
-  IRTTIElement* Last = Newest(Name);
+  if (!FIndex) {
+    for (const TItem* Item : Named(Name))
+      Result->Add(Item->Element);
+    return Result;
+  }
+  IRTTIElement* Last = FIndex->Newest(Name);
   if (!Last) return Result;
-  if (auto Older = FOlder.find(Name); Older != FOlder.end())
+  if (auto Older = FIndex->Older.find(Name); Older != FIndex->Older.end())
     for (IRTTIElement* Element : Older->second)
       Result->Add(Ref<IRTTIElement>(Element));
   Result->Add(Ref<IRTTIElement>(Last));
@@ -180,17 +258,16 @@ Ref<IRTTIElementList> TRTTIElementList::ItemsByName(const String& Name) const {
 
 Ref<IRTTIElementList> TRTTIElementList::GetSortedItems() const {
   // The index order: by name, and among equal names the last added first.
-  std::map<String, IRTTIElement*> Sorted;
-  for (IRTTIElement* Element : FNames.Elements())
-    Sorted.emplace(Element->GetName(), Element);
-  if (FUnnamed) Sorted.emplace(String(), FUnnamed);
+  std::vector<const TItem*> Sorted;
+  for (const TItem& Item : FItems)
+    Sorted.push_back(&Item);
+  std::sort(Sorted.begin(), Sorted.end(), [](const TItem* A, const TItem* B) {
+    const int Order = KeyOf(*A).compare(KeyOf(*B));
+    return Order != 0 ? Order < 0 : A->Added > B->Added;
+  });
   auto Result = MakeRef<TRTTIElementList>();
-  for (const auto& [Name, Last] : Sorted) {
-    Result->Add(Ref<IRTTIElement>(Last));
-    if (auto Older = FOlder.find(Name); Older != FOlder.end())
-      for (auto It = Older->second.rbegin(); It != Older->second.rend(); ++It)
-        Result->Add(Ref<IRTTIElement>(*It));
-  }
+  for (const TItem* Item : Sorted)
+    Result->Add(Item->Element);
   return Result;
 }
 

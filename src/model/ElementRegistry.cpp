@@ -35,12 +35,12 @@ std::vector<String> RegisteredKinds() {
   return Kinds;
 }
 
-Ref<IRTTIElement> CreateForReader(StringView Kind, const String& Name) {
+Ref<IRTTIElement> CreateForReader(StringView Kind, String Name) {
   if (Kind.empty()) return nullptr;
   auto Found = Registry().find(Kind);
   if (Found == Registry().end())
     throw Exception(u"RTTI class name not registered : TRTTI" + String(Kind));
-  return Found->second(Name);
+  return Found->second(std::move(Name));
 }
 
 }  // namespace gello

@@ -5,8 +5,8 @@
 
 namespace gello {
 
-TRTTIMethod::TRTTIMethod(const String& Name)
-    : TRTTIElement(Name), FParams(MakeRef<TRTTIElementList>()) {}
+TRTTIMethod::TRTTIMethod(String Name)
+    : TRTTIElement(std::move(Name)), FParams(MakeRef<TRTTIElementList>()) {}
 
 TRTTIMethod::TRTTIMethod(const String& Name, const Ref<IRTTIClass>& ResultType,
                          const Ref<IRTTIElementList>& Params)

@@ -22,7 +22,7 @@ namespace {
                 RTTIClassOf<TRTTIFactory>(),
                 // The global scope is always named "Globals".
                 {String(TRTTIGlobals::KindName),
-                 [](const String&) -> Ref<IRTTIElement> { return MakeRef<TRTTIGlobals>(); }}});
+                 [](String) -> Ref<IRTTIElement> { return MakeRef<TRTTIGlobals>(); }}});
   return true;
 }();
 

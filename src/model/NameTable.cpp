@@ -2,6 +2,8 @@
 
 #include <functional>
 
+#include "../foundation/LinearProbing.h"
+
 namespace gello {
 namespace {
 std::size_t HashOf(const String& Name) {
@@ -64,16 +66,7 @@ std::vector<IRTTIElement*> TNameTable::Elements() const {
 }
 
 void TNameTable::Grow() {
-  std::vector<TSlot> Old = std::move(FSlots);
-  FSlots.assign(Old.empty() ? 8 : Old.size() * 2, TSlot{});
-  const std::size_t Mask = FSlots.size() - 1;
-  for (const TSlot& Slot : Old) {
-    if (!Slot.Element) continue;
-    std::size_t i = Slot.Hash & Mask;
-    while (FSlots[i].Element)
-      i = (i + 1) & Mask;
-    FSlots[i] = Slot;
-  }
+  GrowSlots(FSlots, 8, [](const TSlot& Slot) { return Slot.Element != nullptr; });
 }
 
 }  // namespace gello

@@ -6,7 +6,7 @@
 
 namespace gello {
 
-TRTTIPackage::TRTTIPackage(const String& Name) : TRTTIScope(Name, true) {
+TRTTIPackage::TRTTIPackage(String Name) : TRTTIScope(std::move(Name), true) {
   // Reading a package again fills the classes it already has instead of doubling them.
   GetMembers()->SetMergeElements(true);
 }

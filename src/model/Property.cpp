@@ -4,7 +4,7 @@
 
 namespace gello {
 
-TRTTIProperty::TRTTIProperty(const String& Name) : TRTTIElement(Name) {}
+TRTTIProperty::TRTTIProperty(String Name) : TRTTIElement(std::move(Name)) {}
 
 TRTTIProperty::TRTTIProperty(const String& Name, const Ref<IRTTIClass>& PropertyType,
                              TPropInfo PropInfo)

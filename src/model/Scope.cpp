@@ -7,8 +7,10 @@
 
 namespace gello {
 
-TRTTIScope::TRTTIScope(const String& Name, bool OwnsMembers)
-    : TRTTIElement(Name), FMembers(MakeRef<TRTTIElementList>()), FOwnsMembers(OwnsMembers) {}
+TRTTIScope::TRTTIScope(String Name, bool OwnsMembers)
+    : TRTTIElement(std::move(Name)),
+      FMembers(MakeRef<TRTTIElementList>()),
+      FOwnsMembers(OwnsMembers) {}
 
 TRTTIScope::~TRTTIScope() {
   TRTTIScope::Clear();

@@ -145,6 +145,27 @@ TEST_F(NativeXMLTest, ReadingRulesAndDefaults) {
   EXPECT_FALSE(LoadFromXMLNode(Empty.append_child("classref"), Globals.get()));
 }
 
+TEST_F(NativeXMLTest, EachTypeNameIsOnePlaceholderThroughoutARead) {
+  // Enough names that the table of names read grows several times over.
+  constexpr int Names = 300;
+  std::string Text = "<GELLO kind='Package' name='P'><members><c kind='Class' name='C'><members>";
+  for (int Round = 0; Round < 2; ++Round)
+    for (int i = 0; i < Names; ++i)
+      Text += "<p kind='Property' name='p" + std::to_string(Round * Names + i) + "' type='T" +
+              std::to_string(i) + "'/>";
+  auto Package = Read(Text + "</members></c></members></GELLO>");
+  Ref<IRTTIElementList> Members = Package->Find<IRTTIClass>(u"C")->GetMembers();
+  ASSERT_EQ(Members->GetCount(), 2 * Names);
+  auto TypeAt = [&](int i) {
+    return DynCast<IRTTIProperty>(Members->GetItems(i))->GetPropertyType();
+  };
+  for (int i = 0; i < Names; ++i) {
+    EXPECT_EQ(TypeAt(i)->GetName(), u"T" + IntToStr(i));
+    EXPECT_EQ(TypeAt(i), TypeAt(Names + i));
+    EXPECT_NE(TypeAt(i), TypeAt((i + 1) % Names));
+  }
+}
+
 TEST_F(NativeXMLTest, BadInputEndsInTheSystemsMessages) {
   auto MessageOf = [&](const std::string& Text) -> String {
     try {

@@ -32,40 +32,52 @@ class TCountingElement : public TRTTIElement {
 
 }  // namespace
 
-TEST(ElementList, NameIndexAgreesWithTheListThroughEqualNamesAndChanges) {
+// Short lists are searched and long ones indexed: the same story is told after F other
+// elements, F chosen so that the list is short throughout, grows long in the middle, or is long
+// from the start.
+class ElementListNames : public testing::TestWithParam<int> {};
+
+TEST_P(ElementListNames, IndexAgreesWithTheListThroughEqualNamesAndChanges) {
+  const int F = GetParam();
   auto List = MakeRef<TRTTIElementList>();
+  for (int i = 0; i < F; ++i)
+    List->Add(Named((u"f" + IntToStr(i)).c_str()));
   Ref<IRTTIElement> A = Named(u"a"), X1 = Named(u"x"), X2 = Named(u"x"), X3 = Named(u"x");
   List->Add(A);
-  EXPECT_EQ(List->Add(X1), 1);
+  EXPECT_EQ(List->Add(X1), F + 1);
   List->Add(X2);
   List->Add(X3);
   EXPECT_EQ(List->GetItemByName(u"x"), X3);  // the last added wins
-  EXPECT_EQ(List->IndexOf(u"x"), 3);
+  EXPECT_EQ(List->IndexOf(u"x"), F + 3);
   EXPECT_FALSE(List->GetItemByName(u"X"));
-  List->Delete(2);  // from the middle of the equal names
+  List->Delete(F + 2);  // from the middle of the equal names
   Ref<IRTTIElementList> Same = List->ItemsByName(u"x");
   ASSERT_EQ(Same->GetCount(), 2);
   EXPECT_EQ(Same->GetItems(0), X1);  // in the order added
   EXPECT_EQ(Same->GetItems(1), X3);
-  List->Delete(2);
+  List->Delete(F + 2);
   EXPECT_EQ(List->GetItemByName(u"x"), X1);  // the older one again
   auto B = Named(u"b");
-  List->SetItems(1, B);
+  List->SetItems(F + 1, B);
   EXPECT_FALSE(List->GetItemByName(u"x"));
   EXPECT_EQ(List->GetItemByName(u"b"), B);
   EXPECT_FALSE(List->Exists(X1.get()));
   List->SetItemByName(u"a", X1);  // replaces a at its position
-  EXPECT_EQ(Names(*List), (std::vector<String>{u"x", u"b"}));
+  EXPECT_EQ(List->GetItems(F), X1);
   EXPECT_FALSE(List->GetItemByName(u"a"));
   List->SetItemByName(u"c", A);  // not there: added
-  EXPECT_EQ(List->GetCount(), 3);
-  List->Insert(0, X2);
-  EXPECT_EQ(List->IndexOf(u"x"), 0);
-  EXPECT_EQ(List->IndexOfElement(X1.get()), 1);
+  EXPECT_EQ(List->GetCount(), F + 3);
+  // Inserted before an element of its name, it is still the newer one.
+  List->Insert(F, X2);
+  EXPECT_EQ(List->IndexOf(u"x"), F);
+  EXPECT_EQ(List->IndexOfElement(X1.get()), F + 1);
+  Ref<IRTTIElementList> Sorted = List->GetSortedItems();
+  EXPECT_EQ(Sorted->GetItems(F + 2), X2);  // a, b, the f names, then x newest first
+  EXPECT_EQ(Sorted->GetItems(F + 3), X1);
   // The same element twice: removing one copy keeps the other findable.
-  List->Delete(0);
+  List->Delete(F);
   List->Add(X1);
-  List->Delete(0);
+  List->Delete(F);
   EXPECT_EQ(List->GetItemByName(u"x"), X1);
   EXPECT_TRUE(List->Exists(X1.get()));
   List->Delete(List->GetCount() - 1);
@@ -82,6 +94,8 @@ TEST(ElementList, NameIndexAgreesWithTheListThroughEqualNamesAndChanges) {
   List->Clear();
   EXPECT_FALSE(List->GetItemByName(u"b"));
 }
+
+INSTANTIATE_TEST_SUITE_P(ShortGrowingAndLong, ElementListNames, testing::Values(0, 14, 20));
 
 TEST(ElementList, RefusesNullAndBadPositions) {
   auto List = MakeRef<TRTTIElementList>();

@@ -8,7 +8,7 @@ namespace gello {
 class TRTTIConditional : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"Conditional";
-  explicit TRTTIConditional(const String& Name) : TRTTIValue(Name) {}
+  explicit TRTTIConditional(String Name) : TRTTIValue(std::move(Name)) {}
   TRTTIConditional(const Ref<IRTTIClass>& ResultType, const Ref<IRTTIValue>& Condition,
                    const Ref<IRTTIValue>& ThenPart, const Ref<IRTTIValue>& ElsePart);
   ~TRTTIConditional() override;
@@ -34,7 +34,7 @@ class TRTTIConditional : public TRTTIValue {
 class TRTTIStatements : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"Statements";
-  explicit TRTTIStatements(const String& Name) : TRTTIValue(Name) {}
+  explicit TRTTIStatements(String Name) : TRTTIValue(std::move(Name)) {}
   TRTTIStatements(const Ref<IRTTIClass>& ResultType, const Ref<IRTTIElementList>& Declaratives,
                   const Ref<IRTTIValue>& ReturnValue);
   ~TRTTIStatements() override;
@@ -57,7 +57,7 @@ class TRTTIStatements : public TRTTIValue {
 class TRTTITupleValue : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"TupleValue";
-  explicit TRTTITupleValue(const String& Name) : TRTTIValue(Name) {}
+  explicit TRTTITupleValue(String Name) : TRTTIValue(std::move(Name)) {}
   TRTTITupleValue(const Ref<IRTTIClass>& ResultType, const Ref<IRTTIElementList>& Values);
   ~TRTTITupleValue() override;
 
@@ -76,7 +76,7 @@ class TRTTITupleValue : public TRTTIValue {
 class TRTTICollectionValue : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"CollectionValue";
-  explicit TRTTICollectionValue(const String& Name) : TRTTIValue(Name) {}
+  explicit TRTTICollectionValue(String Name) : TRTTIValue(std::move(Name)) {}
   TRTTICollectionValue(const Ref<IRTTIClass>& ResultType, const Ref<IRTTIElementList>& Elements);
   ~TRTTICollectionValue() override;
 
@@ -95,7 +95,7 @@ class TRTTICollectionValue : public TRTTIValue {
 class TRTTIPragma : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"Pragma";
-  explicit TRTTIPragma(const String& Name) : TRTTIValue(Name) {}
+  explicit TRTTIPragma(String Name) : TRTTIValue(std::move(Name)) {}
   TRTTIPragma(const Ref<IRTTIClass>& ResultType, const String& Directive,
               const Ref<IRTTIElementList>& Pragmas);
   ~TRTTIPragma() override;

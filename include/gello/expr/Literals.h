@@ -38,7 +38,7 @@ class TRTTIStringLiteral : public TRTTITextLiteral {
 class TRTTIIntegerLiteral : public TRTTILiteral {
  public:
   static constexpr StringView KindName = u"IntegerLiteral";
-  explicit TRTTIIntegerLiteral(const String& Name) : TRTTILiteral(Name) {}
+  explicit TRTTIIntegerLiteral(String Name) : TRTTILiteral(std::move(Name)) {}
   TRTTIIntegerLiteral(const Ref<IRTTIClass>& Class, std::int64_t Value);
   StringView GetKind() const override { return KindName; }
   std::int64_t GetValue() const { return FValue; }
@@ -54,7 +54,7 @@ class TRTTIIntegerLiteral : public TRTTILiteral {
 class TRTTIRealLiteral : public TRTTILiteral {
  public:
   static constexpr StringView KindName = u"RealLiteral";
-  explicit TRTTIRealLiteral(const String& Name) : TRTTILiteral(Name) {}
+  explicit TRTTIRealLiteral(String Name) : TRTTILiteral(std::move(Name)) {}
   TRTTIRealLiteral(const Ref<IRTTIClass>& Class, double Value);
   StringView GetKind() const override { return KindName; }
   double GetValue() const { return FValue; }
@@ -69,7 +69,7 @@ class TRTTIRealLiteral : public TRTTILiteral {
 class TRTTIBooleanLiteral : public TRTTILiteral {
  public:
   static constexpr StringView KindName = u"BooleanLiteral";
-  explicit TRTTIBooleanLiteral(const String& Name) : TRTTILiteral(Name) {}
+  explicit TRTTIBooleanLiteral(String Name) : TRTTILiteral(std::move(Name)) {}
   TRTTIBooleanLiteral(const Ref<IRTTIClass>& Class, TRTTIExtendedBoolean Value);
   /// A plain boolean keeps its ordinal: false is rtti_false, true is rtti_true.
   TRTTIBooleanLiteral(const Ref<IRTTIClass>& Class, bool Value);
@@ -86,7 +86,7 @@ class TRTTIBooleanLiteral : public TRTTILiteral {
 class TRTTINullLiteral : public TRTTILiteral {
  public:
   static constexpr StringView KindName = u"NullLiteral";
-  explicit TRTTINullLiteral(const String& Name) : TRTTILiteral(Name) {}
+  explicit TRTTINullLiteral(String Name) : TRTTILiteral(std::move(Name)) {}
   explicit TRTTINullLiteral(const Ref<IRTTIClass>& Class) : TRTTILiteral(Class) {}
   StringView GetKind() const override { return KindName; }
   String GetasString() const override { return u"null"; }
@@ -105,7 +105,7 @@ class TRTTIClassLiteral : public TRTTITextLiteral {
 class TRTTIEnumLiteral : public TRTTILiteral {
  public:
   static constexpr StringView KindName = u"EnumLiteral";
-  explicit TRTTIEnumLiteral(const String& Name) : TRTTILiteral(Name) {}
+  explicit TRTTIEnumLiteral(String Name) : TRTTILiteral(std::move(Name)) {}
   TRTTIEnumLiteral(const String& Name, const Ref<IRTTIClass>& Class, std::int32_t Ordinal);
   StringView GetKind() const override { return KindName; }
   std::int32_t GetOrdinal() const { return FOrdinal; }

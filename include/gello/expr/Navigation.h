@@ -8,7 +8,7 @@ namespace gello {
 class TRTTIMethodCall : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"MethodCall";
-  explicit TRTTIMethodCall(const String& Name) : TRTTIValue(Name) {}
+  explicit TRTTIMethodCall(String Name) : TRTTIValue(std::move(Name)) {}
   TRTTIMethodCall(const String& Name, const Ref<IRTTIClass>& ResultType,
                   const Ref<IRTTIValue>& ClassRef, const Ref<IRTTIElementList>& Params,
                   const Ref<IRTTIMethod>& MethodRef);
@@ -36,7 +36,7 @@ class TRTTIMethodCall : public TRTTIValue {
 class TRTTIPropertyRef : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"PropertyRef";
-  explicit TRTTIPropertyRef(const String& Name) : TRTTIValue(Name) {}
+  explicit TRTTIPropertyRef(String Name) : TRTTIValue(std::move(Name)) {}
   TRTTIPropertyRef(const String& Name, const Ref<IRTTIClass>& ResultType,
                    const Ref<IRTTIValue>& ClassRef);
   ~TRTTIPropertyRef() override;
@@ -56,7 +56,7 @@ class TRTTIPropertyRef : public TRTTIValue {
 class TRTTICollectionMethod : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"CollectionMethod";
-  explicit TRTTICollectionMethod(const String& Name) : TRTTIValue(Name) {}
+  explicit TRTTICollectionMethod(String Name) : TRTTIValue(std::move(Name)) {}
   TRTTICollectionMethod(const String& Name, const Ref<IRTTIClass>& ResultType,
                         const Ref<IRTTIValue>& ClassRef, const Ref<IRTTIProperty>& Iterator,
                         const Ref<IRTTIProperty>& Accum, const Ref<IRTTIElementList>& Params);

@@ -9,7 +9,7 @@ class TRTTIValue : public TRTTIElement, public virtual IRTTIValue {
  public:
   static constexpr StringView KindName = u"Value";
   /// The reader's form: named, without a type yet.
-  explicit TRTTIValue(const String& Name);
+  explicit TRTTIValue(String Name);
   /// An unnamed node of that type.
   explicit TRTTIValue(const Ref<IRTTIClass>& ValueType);
   ~TRTTIValue() override;

@@ -9,6 +9,8 @@
 #include <type_traits>
 #include <utility>
 
+#include "gello/foundation/CachedCast.h"
+
 namespace gello {
 
 /// Root of every interface; inherit it virtually so an object has exactly one count.
@@ -90,11 +92,11 @@ Ref<T> MakeRef(Args&&... A) {
 /// The same object seen through another interface, or empty when it does not support it.
 template <class To, class From>
 Ref<To> DynCast(const Ref<From>& R) noexcept {
-  return Ref<To>(dynamic_cast<To*>(R.get()));
+  return Ref<To>(CachedCast<To>(R.get()));
 }
 template <class To, class From>
 Ref<To> DynCast(From* P) noexcept {
-  return Ref<To>(dynamic_cast<To*>(P));
+  return Ref<To>(CachedCast<To>(P));
 }
 
 }  // namespace gello

@@ -10,7 +10,7 @@ namespace gello {
 class TRTTIClass : public TRTTIScope, public virtual IRTTIClass {
  public:
   static constexpr StringView KindName = u"Class";
-  explicit TRTTIClass(const String& Name, const Ref<IRTTIClass>& Ancestor = nullptr,
+  explicit TRTTIClass(String Name, const Ref<IRTTIClass>& Ancestor = nullptr,
                       const Ref<IRTTIClass>& ElementType = nullptr);
   ~TRTTIClass() override;
 

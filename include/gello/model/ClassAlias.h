@@ -8,7 +8,7 @@ namespace gello {
 class TRTTIClassAlias : public TRTTIScope, public virtual IRTTIClass {
  public:
   static constexpr StringView KindName = u"ClassAlias";
-  explicit TRTTIClassAlias(const String& Name);
+  explicit TRTTIClassAlias(String Name);
   TRTTIClassAlias(const String& Name, const Ref<IRTTIClass>& ActualClass);
   ~TRTTIClassAlias() override;
 

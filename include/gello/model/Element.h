@@ -1,6 +1,7 @@
 #pragma once
 // The element base class: identity, write-once naming, identifiers and default type answers.
 #include <cstdint>
+#include <memory>
 
 #include "gello/model/Interfaces.h"
 
@@ -10,16 +11,16 @@ namespace gello {
 class TRTTIElement : public virtual IRTTIElement {
  public:
   static constexpr StringView KindName = u"Element";
-  explicit TRTTIElement(const String& Name = {});
+  explicit TRTTIElement(String Name = {});
   ~TRTTIElement() override;
 
   const String& GetName() const override { return FName; }
   void SetName(const String& Value) override;
   bool IsNamed(const String& Name) const override { return FName == Name; }
-  String GetAnnotation() const override { return FAnnotation; }
-  void SetAnnotation(const String& Value) override { FAnnotation = Value; }
-  Ref<IRTTIDebugInfo> GetDebugInfo() const override { return FDebugInfo; }
-  void SetDebugInfo(const Ref<IRTTIDebugInfo>& Value) override { FDebugInfo = Value; }
+  String GetAnnotation() const override;
+  void SetAnnotation(const String& Value) override;
+  Ref<IRTTIDebugInfo> GetDebugInfo() const override;
+  void SetDebugInfo(const Ref<IRTTIDebugInfo>& Value) override;
   bool GetHidden() const override { return FHidden; }
   void SetHidden(bool Value) override { FHidden = Value; }
   bool GetResolved() const override { return FResolved; }
@@ -37,13 +38,19 @@ class TRTTIElement : public virtual IRTTIElement {
   void Clear() override;
 
  private:
-  String FAnnotation;
-  GUID FGUID;
-  Ref<IRTTIDebugInfo> FDebugInfo;
-  bool FHidden = false;
+  // What few elements have, kept apart so that a large model's many elements stay small.
+  struct TExtras {
+    String Annotation;
+    GUID Id;
+    Ref<IRTTIDebugInfo> DebugInfo;
+    String UML_ID;
+  };
+  TExtras& Extras();
+
   String FName;
+  std::unique_ptr<TExtras> FExtras;
+  bool FHidden = false;
   bool FResolved = false;
-  String FUML_ID;
 };
 
 /// Changes whenever an element gets a GUID or a UML id is set, so caches of ids know to refresh.

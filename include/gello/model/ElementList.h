@@ -1,18 +1,19 @@
 #pragma once
 // The ordered, name-indexed list in which scopes, classes and packages keep their elements.
+#include <cstdint>
 #include <initializer_list>
-#include <unordered_map>
+#include <memory>
 #include <vector>
 
 #include "gello/model/Interfaces.h"
-#include "gello/model/NameTable.h"
 
 namespace gello {
 
 /// Elements in insertion order, with a case-sensitive name index where the last added name wins.
 class TRTTIElementList : public virtual IRTTIElementList {
  public:
-  TRTTIElementList() = default;
+  TRTTIElementList();
+  ~TRTTIElementList() override;
   TRTTIElementList(std::initializer_list<Ref<IRTTIElement>> Elements);
 
   int Add(const Ref<IRTTIElement>& Element) override;
@@ -45,34 +46,34 @@ class TRTTIElementList : public virtual IRTTIElementList {
     // Added without a name: indexed under "" even after it was named later. Names are
     // write-once, so any other element keeps the name it was indexed under.
     bool Unnamed;
+    // When it was added: among elements of one name, the newest answers lookups.
+    std::uint32_t Added;
   };
+  struct TIndex;
+  struct TUMLIndex;
+  static const String& KeyOf(const TItem& Item);
+  static bool IsKeyed(const TItem& Item, const String& Key);
   void CheckIndex(int Index, int Limit) const;
-  void IndexAdd(TItem& Item);
+  TItem NewItem(const Ref<IRTTIElement>& Element);
+  void IndexAdd(const TItem& Item);
   void IndexRemove(const TItem& Item);
+  void BuildIndex();
+  void Renumber();
+  std::vector<std::size_t> ByAge() const;
   IRTTIElement* Newest(const String& Key) const;
-  void SetNewest(const String& Key, IRTTIElement* Element);
+  std::vector<const TItem*> Named(const String& Key) const;
+  void ForgetUMLIds();
   void QuickSort(int L, int R);
 
   std::vector<TItem> FItems;
+  std::uint32_t FAdded = 0;
   bool FMergeElements = false;
-  // The newest element of each name answers lookups: named ones in a compact table, the
-  // newest unnamed one beside it.
-  TNameTable FNames;
-  IRTTIElement* FUnnamed = nullptr;
-  // For names held more than once: the earlier elements, oldest first.
-  std::unordered_map<String, std::vector<IRTTIElement*>> FOlder;
-  // UML id to the first element that has it, made on demand; an element without any id would
-  // get a fresh random one, which no given id can equal, so it need not be given one here.
-  void ForgetUMLIds() { FUMLValid = false; }
-  mutable std::unordered_map<String, IRTTIElement*> FByUMLId;
-  mutable std::uint64_t FUMLEpoch = 0;
-  mutable bool FUMLValid = false;
-  // How often each element is held, so that Exists and Include need not scan; kept only once
-  // the list has grown past a few items, since most lists are short and scanning them is cheaper
-  // than a table per list.
+  // Most lists are short, and scanning them is cheaper than tables per list: the name and
+  // membership tables are kept only once a list has grown past ScanLimit items.
   static constexpr std::size_t ScanLimit = 16;
-  std::unordered_map<IRTTIElement*, int> FHeld;
-  bool FHeldKept = false;
+  std::unique_ptr<TIndex> FIndex;
+  // UML id to the first element that has it, made on demand.
+  mutable std::unique_ptr<TUMLIndex> FUMLIds;
 };
 
 }  // namespace gello

@@ -8,7 +8,7 @@
 namespace gello {
 
 /// Makes an element of one class with the given name (the class's virtual constructor).
-using TElementFactory = Ref<IRTTIElement> (*)(const String& Name);
+using TElementFactory = Ref<IRTTIElement> (*)(String Name);
 
 /// A registered element class: its kind word and its factory.
 struct TRTTIElementClass {
@@ -20,7 +20,7 @@ struct TRTTIElementClass {
 template <class T>
 TRTTIElementClass RTTIClassOf() {
   return {String(T::KindName),
-          [](const String& Name) -> Ref<IRTTIElement> { return MakeRef<T>(Name); }};
+          [](String Name) -> Ref<IRTTIElement> { return MakeRef<T>(std::move(Name)); }};
 }
 
 /// Registers element classes by kind; a kind registered again takes the newer class.
@@ -30,6 +30,6 @@ void RegisterRTTI(std::initializer_list<TRTTIElementClass> Classes);
 std::vector<String> RegisteredKinds();
 
 /// A new element of that kind and name; empty for an empty kind; raises for an unknown kind.
-Ref<IRTTIElement> CreateForReader(StringView Kind, const String& Name);
+Ref<IRTTIElement> CreateForReader(StringView Kind, String Name);
 
 }  // namespace gello

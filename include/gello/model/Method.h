@@ -9,7 +9,7 @@ class TRTTIMethod : public TRTTIElement, public virtual IRTTIMethod {
  public:
   static constexpr StringView KindName = u"Method";
   /// The reader's form: result type and parameters come later.
-  explicit TRTTIMethod(const String& Name);
+  explicit TRTTIMethod(String Name);
   /// Fails an assertion when ResultType is empty; empty Params become a new empty list.
   TRTTIMethod(const String& Name, const Ref<IRTTIClass>& ResultType,
               const Ref<IRTTIElementList>& Params = nullptr);

@@ -10,7 +10,7 @@ namespace gello {
 class TRTTIPackage : public TRTTIScope, public virtual IRTTIPackage {
  public:
   static constexpr StringView KindName = u"Package";
-  explicit TRTTIPackage(const String& Name);
+  explicit TRTTIPackage(String Name);
   ~TRTTIPackage() override;
 
   StringView GetKind() const override { return KindName; }

@@ -9,7 +9,7 @@ class TRTTIProperty : public TRTTIElement, public virtual IRTTIProperty {
  public:
   static constexpr StringView KindName = u"Property";
   /// The reader's form: the type comes later.
-  explicit TRTTIProperty(const String& Name);
+  explicit TRTTIProperty(String Name);
   /// Fails an assertion when PropertyType is empty.
   TRTTIProperty(const String& Name, const Ref<IRTTIClass>& PropertyType,
                 TPropInfo PropInfo = nullptr);

@@ -9,7 +9,7 @@ namespace gello {
 class TRTTIScope : public TRTTIElement, public virtual IRTTIScope {
  public:
   static constexpr StringView KindName = u"Scope";
-  explicit TRTTIScope(const String& Name = {}, bool OwnsMembers = false);
+  explicit TRTTIScope(String Name = {}, bool OwnsMembers = false);
   ~TRTTIScope() override;
 
   StringView GetKind() const override { return KindName; }

@@ -12,7 +12,7 @@
 #include <type_traits>
 #include <utility>
 
-#include "gello/registry/CachedCast.h"
+#include "gello/foundation/CachedCast.h"
 #include "gello/registry/OCLIntfTables.h"
 
 namespace gello {
