@@ -2,6 +2,7 @@
 // Growing the slot arrays of open-addressed tables: power-of-two sizes, linear probing, each slot
 // keeping the hash of what it holds so that nothing is hashed again.
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace gello {
@@ -13,12 +14,12 @@ void GrowSlots(std::vector<TSlot>& Slots, std::size_t First, THeld Held) {
   std::vector<TSlot> Old = std::move(Slots);
   Slots.assign(Old.empty() ? First : Old.size() * 2, TSlot{});
   const std::size_t Mask = Slots.size() - 1;
-  for (const TSlot& Slot : Old) {
+  for (TSlot& Slot : Old) {
     if (!Held(Slot)) continue;
     std::size_t i = Slot.Hash & Mask;
     while (Held(Slots[i]))
       i = (i + 1) & Mask;
-    Slots[i] = Slot;
+    Slots[i] = std::move(Slot);
   }
 }
 

@@ -24,20 +24,23 @@ std::size_t TClassNames::Locate(std::string_view Name, std::size_t Hash) const {
   }
 }
 
-IRTTIClass* TClassNames::Find(std::string_view Name) const {
-  if (FClasses.empty()) return nullptr;
+const Ref<IRTTIClass>& TClassNames::Find(std::string_view Name) const {
+  static const Ref<IRTTIClass> None;
+  if (FCount == 0) return None;
   return FSlots[Locate(Name, HashOf(Name))].Class;
 }
 
-void TClassNames::Add(std::string_view Name, const Ref<IRTTIClass>& Class) {
+const Ref<IRTTIClass>& TClassNames::Add(std::string_view Name, const Ref<IRTTIClass>& Class) {
   GELLO_ASSERT(Class, u"Assertion failure");
   if (FNames.size() + Name.size() > UINT32_MAX) throw Exception(u"Too many type names in a model");
-  if ((FClasses.size() + 1) * 2 > FSlots.size()) Grow();
+  if ((FCount + 1) * 2 > FSlots.size()) Grow();
   const std::size_t Hash = HashOf(Name);
-  FSlots[Locate(Name, Hash)] = TSlot{Hash, static_cast<std::uint32_t>(FNames.size()),
-                                     static_cast<std::uint32_t>(Name.size()), Class.get()};
+  TSlot& Slot = FSlots[Locate(Name, Hash)];
+  Slot = TSlot{Hash, static_cast<std::uint32_t>(FNames.size()),
+               static_cast<std::uint32_t>(Name.size()), Class};
   FNames.append(Name);
-  FClasses.push_back(Class);
+  ++FCount;
+  return Slot.Class;
 }
 
 void TClassNames::Grow() {

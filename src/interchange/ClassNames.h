@@ -14,24 +14,24 @@ namespace gello::forms {
 /// and one run of bytes.
 class TClassNames {
  public:
-  /// The class filed under Name, or null.
-  IRTTIClass* Find(std::string_view Name) const;
-  /// Files Class under Name, which is not filed yet, and holds it.
-  void Add(std::string_view Name, const Ref<IRTTIClass>& Class);
+  /// The class filed under Name, or an empty reference; valid until the next Add.
+  const Ref<IRTTIClass>& Find(std::string_view Name) const;
+  /// Files Class under Name, which is not filed yet, and holds it; answers the reference kept.
+  const Ref<IRTTIClass>& Add(std::string_view Name, const Ref<IRTTIClass>& Class);
 
  private:
   struct TSlot {
     std::size_t Hash = 0;
     std::uint32_t Offset = 0;
     std::uint32_t Length = 0;
-    IRTTIClass* Class = nullptr;  // null: free
+    Ref<IRTTIClass> Class;  // empty: free
   };
   std::size_t Locate(std::string_view Name, std::size_t Hash) const;
   void Grow();
 
   std::vector<TSlot> FSlots;  // a power of two in size, at most half full
   std::string FNames;         // every name filed, one after another
-  std::vector<Ref<IRTTIClass>> FClasses;
+  std::size_t FCount = 0;
 };
 
 }  // namespace gello::forms

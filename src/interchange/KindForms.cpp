@@ -1,6 +1,9 @@
 // The table of forms by kind word.
 #include "KindForms.h"
 
+#include <algorithm>
+#include <array>
+#include <cstdint>
 #include <unordered_map>
 
 namespace gello::forms {
@@ -65,11 +68,31 @@ const std::unordered_map<StringView, TKindForm>& Forms() {
   return Table;
 }
 
+const TKindForm& Lookup(StringView Kind) {
+  auto Found = Forms().find(Kind);
+  return Found == Forms().end() ? ElementForm : Found->second;
+}
+
 }  // namespace
 
 const TKindForm& FormOf(StringView Kind) {
-  auto Found = Forms().find(Kind);
-  return Found == Forms().end() ? ElementForm : Found->second;
+  // Kind words are the classes' own constants, so their address picks a cache entry, and a
+  // word compared there spares hashing it for every element of a large model. The entry keeps
+  // its own copy of the word, so a word that is not a constant is still compared safely.
+  struct TCached {
+    char16_t Word[24];
+    std::size_t Size = SIZE_MAX;
+    const TKindForm* Form = nullptr;
+  };
+  thread_local std::array<TCached, 64> Cache;
+  if (Kind.size() > std::size(TCached{}.Word)) return Lookup(Kind);
+  TCached& Entry = Cache[(reinterpret_cast<std::uintptr_t>(Kind.data()) >> 3) % Cache.size()];
+  if (Entry.Size != Kind.size() || !std::equal(Kind.begin(), Kind.end(), Entry.Word)) {
+    std::copy(Kind.begin(), Kind.end(), Entry.Word);
+    Entry.Size = Kind.size();
+    Entry.Form = &Lookup(Kind);
+  }
+  return *Entry.Form;
 }
 
 }  // namespace gello::forms

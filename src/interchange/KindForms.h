@@ -18,8 +18,9 @@ class TReading {
   explicit TReading(IRTTIGlobals* Globals) : FGlobals(Globals) {}
   IRTTIGlobals* Globals() const { return FGlobals; }
   /// The class a type attribute names, found through the global scope or else a placeholder
-  /// by that name, the same one for each use in this read; nil for an empty name.
-  Ref<IRTTIClass> ClassNamed(std::string_view Name);
+  /// by that name, the same one for each use in this read; nil for an empty name. The reference
+  /// is valid until the next call.
+  const Ref<IRTTIClass>& ClassNamed(std::string_view Name);
 
  private:
   IRTTIGlobals* FGlobals;

@@ -12,9 +12,9 @@
 namespace gello {
 namespace forms {
 
-Ref<IRTTIClass> TReading::ClassNamed(std::string_view Name) {
-  if (Name.empty()) return nullptr;
-  if (IRTTIClass* Found = FClasses.Find(Name)) return Ref<IRTTIClass>(Found);
+const Ref<IRTTIClass>& TReading::ClassNamed(std::string_view Name) {
+  // An empty name is never filed, so it finds nothing.
+  if (const Ref<IRTTIClass>& Found = FClasses.Find(Name); Found || Name.empty()) return Found;
   const String Text = FromUTF8(Name);
   Ref<IRTTIClass> Class;
   // A qualified name is looked for in its own package; otherwise, as any name the loaded
@@ -22,8 +22,7 @@ Ref<IRTTIClass> TReading::ClassNamed(std::string_view Name) {
   if (FGlobals && Text.find(u"::") != String::npos && Text.find(u'(') == String::npos)
     Class = FGlobals->FindAddClass(Text, FGlobals);
   if (!Class) Class = FGlobals ? FGlobals->BuildClass(Text) : BuildClassRef(Text);
-  FClasses.Add(Name, Class);
-  return Class;
+  return FClasses.Add(Name, Class);
 }
 
 namespace {

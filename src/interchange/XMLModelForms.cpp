@@ -81,14 +81,14 @@ void WriteClassXML(IRTTIElement& Element, pugi::xml_node Node) {
 void ReadClassXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
   ReadScopeXML(Element, Node, Reading);
   auto& Class = As<IRTTIClass>(Element);
-  if (Ref<IRTTIClass> Ancestor = Reading.ClassNamed(Attribute(Node, "ancestor")))
+  if (const Ref<IRTTIClass>& Ancestor = Reading.ClassNamed(Attribute(Node, "ancestor")))
     Class.SetAncestor(Ancestor);
   std::string ElementName(Attribute(Node, "elementtype"));
   // Set(Integer) read without an element type has Integer.
   if (ElementName.empty())
     if (auto* Generic = CachedCast<TRTTIClass>(&Element))
       ElementName = ToUTF8(Generic->ExtractElementName());
-  if (Ref<IRTTIClass> ElementType = Reading.ClassNamed(ElementName))
+  if (const Ref<IRTTIClass>& ElementType = Reading.ClassNamed(ElementName))
     Class.SetElementType(ElementType);
   Class.SetEnums(LoadList(nullptr, Node.child("enums"), Reading));
   Class.SetResolved(true);
@@ -115,7 +115,7 @@ void WriteMethodXML(IRTTIElement& Element, pugi::xml_node Node) {
 void ReadMethodXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
   ReadElementXML(Element, Node, Reading);
   auto& Method = As<IRTTIMethod>(Element);
-  if (Ref<IRTTIClass> Type = Reading.ClassNamed(Attribute(Node, "type")))
+  if (const Ref<IRTTIClass>& Type = Reading.ClassNamed(Attribute(Node, "type")))
     Method.SetResultType(Type);
   // A new method's own empty list takes the parameters; one that has some gets a fresh list.
   Ref<IRTTIElementList> Params = Method.GetParams();
@@ -134,7 +134,7 @@ void WritePropertyXML(IRTTIElement& Element, pugi::xml_node Node) {
 void ReadPropertyXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
   ReadElementXML(Element, Node, Reading);
   auto& Property = As<IRTTIProperty>(Element);
-  if (Ref<IRTTIClass> Type = Reading.ClassNamed(Attribute(Node, "type")))
+  if (const Ref<IRTTIClass>& Type = Reading.ClassNamed(Attribute(Node, "type")))
     Property.SetPropertyType(Type);
   Property.SetPropertyValue(LoadSingle<IRTTIValue>(Node, "value", Reading));
 }
