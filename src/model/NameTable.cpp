@@ -58,13 +58,6 @@ void TNameTable::Clear() {
   FCount = 0;
 }
 
-std::vector<IRTTIElement*> TNameTable::Elements() const {
-  std::vector<IRTTIElement*> Result;
-  for (const TSlot& Slot : FSlots)
-    if (Slot.Element) Result.push_back(Slot.Element);
-  return Result;
-}
-
 void TNameTable::Grow() {
   GrowSlots(FSlots, 8, [](const TSlot& Slot) { return Slot.Element != nullptr; });
 }

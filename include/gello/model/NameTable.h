@@ -18,8 +18,8 @@ class TNameTable {
   /// Removes the entry of Name, if any.
   void Erase(const String& Name);
   void Clear();
-  /// Every element held, in no particular order.
-  std::vector<IRTTIElement*> Elements() const;
+  /// How many elements it holds.
+  std::size_t Count() const { return FCount; }
 
  private:
   struct TSlot {
