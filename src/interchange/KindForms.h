@@ -2,12 +2,17 @@
 // The native XML and JSON forms of each element kind, found by kind word. Each kind's parts
 // call its base kind's parts first, so a kind adds only its own attributes, nodes and keys.
 #include <pugixml.hpp>
+
+#include <array>
+#include <string>
 #include <string_view>
 
 #include "ClassNames.h"
+#include "ElementNode.h"
 #include "gello/foundation/CachedCast.h"
 #include "gello/foundation/Exceptions.h"
 #include "gello/foundation/JSON.h"
+#include "gello/model/ElementRegistry.h"
 #include "gello/model/Interfaces.h"
 
 namespace gello::forms {
@@ -21,16 +26,27 @@ class TReading {
   /// by that name, the same one for each use in this read; nil for an empty name. The reference
   /// is valid until the next call.
   const Ref<IRTTIClass>& ClassNamed(std::string_view Name);
+  /// A new element of the kind a word names, by that name; nil for an empty word.
+  Ref<IRTTIElement> Create(std::string_view Kind, String Name);
 
  private:
+  // A model uses a handful of kind words hundreds of thousands of times: each word is looked up
+  // in the element-class registry once per read.
+  struct TFactory {
+    std::string Kind;
+    TElementFactory Create = nullptr;
+  };
+  TElementFactory FactoryFor(std::string_view Kind);
+
   IRTTIGlobals* FGlobals;
   TClassNames FClasses;
+  std::array<TFactory, 64> FFactories;  // by linear probing; an empty one ends a search
 };
 
 /// The parts of one kind.
 struct TKindForm {
   void (*WriteXML)(IRTTIElement&, pugi::xml_node);
-  void (*ReadXML)(IRTTIElement&, pugi::xml_node, TReading&);
+  void (*ReadXML)(IRTTIElement&, const TElementNode&, TReading&);
   void (*GetJSON)(IRTTIElement&, TJSON&);
   void (*SetJSON)(IRTTIElement&, const TJSON&);
 };
@@ -47,7 +63,6 @@ I& As(IRTTIElement& Element) {
 }
 
 // Shared pieces of the XML parts.
-String Text(pugi::xml_node Node, const char* Name);
 /// Whether Wide holds the text of Utf8; ASCII is compared without widening it.
 bool SameText(const String& Wide, std::string_view Utf8);
 void SetText(pugi::xml_node Node, const char* Name, StringView Value);
@@ -56,7 +71,7 @@ void ReadElement(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
 Ref<IRTTIElement> LoadElement(pugi::xml_node Node, TReading& Reading);
 Ref<IRTTIElementList> LoadList(Ref<IRTTIElementList> List, pugi::xml_node Node, TReading& Reading);
 /// The list under Parent's Role node read into a new list: empty when the node is absent.
-Ref<IRTTIElementList> LoadFreshList(pugi::xml_node Parent, const char* Role, TReading& Reading);
+Ref<IRTTIElementList> LoadFreshList(const TElementNode& Parent, TRoleName Role, TReading& Reading);
 void WriteSingle(IRTTIElement* Element, pugi::xml_node Parent, const char* Role, bool Always);
 void WriteList(IRTTIElementList* List, pugi::xml_node Parent, const char* Role, bool Always);
 /// Element as the I that its role needs; raises when it is of another kind.
@@ -71,8 +86,8 @@ Ref<I> InRole(const Ref<IRTTIElement>& Element, const char* Role) {
 }
 /// The element of a single-element node, as I.
 template <class I>
-Ref<I> LoadSingle(pugi::xml_node Parent, const char* Role, TReading& Reading) {
-  return InRole<I>(LoadElement(Parent.child(Role), Reading), Role);
+Ref<I> LoadSingle(const TElementNode& Parent, TRoleName Role, TReading& Reading) {
+  return InRole<I>(LoadElement(Parent.Role(Role), Reading), Role.Text);
 }
 
 // Shared pieces of the JSON parts.
@@ -85,39 +100,39 @@ bool HasKey(const TJSON& Value, const char* Key, TJSON::value_t Type);
 
 // The parts by kind.
 void WriteElementXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadElementXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadElementXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 void WriteScopeXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadScopeXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadScopeXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 void WritePackageXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadPackageXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadPackageXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 void WriteClassXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadClassXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadClassXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 void WriteClassAliasXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadClassAliasXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadClassAliasXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 void WriteMethodXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadMethodXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadMethodXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 void WritePropertyXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadPropertyXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadPropertyXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 void WriteValueXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadValueXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadValueXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 void WriteLiteralXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadLiteralXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadLiteralXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 void WriteMethodCallXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadMethodCallXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadMethodCallXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 void WritePropertyRefXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadPropertyRefXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadPropertyRefXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 void WriteCollectionMethodXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadCollectionMethodXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadCollectionMethodXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 void WriteConditionalXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadConditionalXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadConditionalXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 void WriteStatementsXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadStatementsXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadStatementsXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 void WriteTupleValueXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadTupleValueXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadTupleValueXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 void WriteCollectionValueXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadCollectionValueXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadCollectionValueXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 void WritePragmaXML(IRTTIElement& Element, pugi::xml_node Node);
-void ReadPragmaXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading);
+void ReadPragmaXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading);
 
 void GetElementJSON(IRTTIElement& Element, TJSON& Value);
 void SetElementJSON(IRTTIElement& Element, const TJSON& Value);

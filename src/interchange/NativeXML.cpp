@@ -25,21 +25,33 @@ const Ref<IRTTIClass>& TReading::ClassNamed(std::string_view Name) {
   return FClasses.Add(Name, Class);
 }
 
+Ref<IRTTIElement> TReading::Create(std::string_view Kind, String Name) {
+  if (Kind.empty()) return nullptr;
+  return FactoryFor(Kind)(std::move(Name));
+}
+
+TElementFactory TReading::FactoryFor(std::string_view Kind) {
+  const std::size_t Mask = FFactories.size() - 1;
+  std::size_t i = (Kind.size() * 31 + static_cast<unsigned char>(Kind.front()) * 7 +
+                   static_cast<unsigned char>(Kind.back())) &
+                  Mask;
+  for (std::size_t Probes = 0; Probes < FFactories.size(); ++Probes, i = (i + 1) & Mask) {
+    TFactory& Entry = FFactories[i];
+    if (!Entry.Create) {
+      Entry.Create = ElementFactoryFor(FromUTF8(Kind));
+      Entry.Kind = Kind;
+      return Entry.Create;
+    }
+    if (Entry.Kind == Kind) return Entry.Create;
+  }
+  return ElementFactoryFor(FromUTF8(Kind));
+}
+
 namespace {
 
 bool IsAscii(std::string_view Text) {
   return std::all_of(Text.begin(), Text.end(),
                      [](char C) { return static_cast<unsigned char>(C) < 0x80; });
-}
-
-// Kind words are short ASCII names: widened on the stack, they cost no allocation per element.
-Ref<IRTTIElement> CreateFromNode(pugi::xml_node Node, String Name) {
-  const std::string_view Kind = Node.attribute("kind").as_string();
-  char16_t Wide[32];
-  if (Kind.size() > std::size(Wide) || !IsAscii(Kind))
-    return CreateForReader(FromUTF8(Kind), std::move(Name));
-  std::copy(Kind.begin(), Kind.end(), Wide);
-  return CreateForReader(StringView(Wide, Kind.size()), std::move(Name));
 }
 
 }  // namespace
@@ -50,10 +62,6 @@ bool SameText(const String& Wide, std::string_view Utf8) {
                     [](char16_t W, char C) { return W == static_cast<char16_t>(C); });
 }
 
-String Text(pugi::xml_node Node, const char* Name) {
-  return FromUTF8(Node.attribute(Name).as_string());
-}
-
 void SetText(pugi::xml_node Node, const char* Name, StringView Value) {
   Node.append_attribute(Name).set_value(ToUTF8(Value).c_str());
 }
@@ -62,15 +70,21 @@ void SetClassName(pugi::xml_node Node, const char* Name, IRTTIClass* Class) {
   if (Class) SetText(Node, Name, Class->GetName());
 }
 
+static void ReadElement(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
+  FormOf(Element.GetKind()).ReadXML(Element, Node, Reading);
+}
+
 void ReadElement(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
   GELLO_ASSERT(Node, u"Trying to read nil xml node in model");
-  FormOf(Element.GetKind()).ReadXML(Element, Node, Reading);
+  ReadElement(Element, TElementNode(Node), Reading);
 }
 
 Ref<IRTTIElement> LoadElement(pugi::xml_node Node, TReading& Reading) {
   if (!Node) return nullptr;
-  Ref<IRTTIElement> Element = CreateFromNode(Node, Text(Node, "name"));
-  if (Element) ReadElement(*Element, Node, Reading);
+  const TElementNode Parts(Node);
+  Ref<IRTTIElement> Element =
+      Reading.Create(Parts.Attribute("kind"), FromUTF8(Parts.Attribute("name")));
+  if (Element) ReadElement(*Element, Parts, Reading);
   return Element;
 }
 
@@ -78,14 +92,15 @@ static void ReadList(IRTTIElementList& List, pugi::xml_node Node, TReading& Read
   GELLO_ASSERT(Node, u"Trying to read nil xml node in model");
   for (pugi::xml_node Child : Node.children()) {
     if (Child.type() != pugi::node_element) continue;
-    String Name = Text(Child, "name");
+    const TElementNode Parts(Child);
+    String Name = FromUTF8(Parts.Attribute("name"));
     if (Ref<IRTTIElement> Existing = List.GetMergeElements() ? List.GetItemByName(Name) : nullptr) {
-      ReadElement(*Existing, Child, Reading);
+      ReadElement(*Existing, Parts, Reading);
       continue;
     }
-    Ref<IRTTIElement> Element = CreateFromNode(Child, std::move(Name));
+    Ref<IRTTIElement> Element = Reading.Create(Parts.Attribute("kind"), std::move(Name));
     List.Add(Element);
-    ReadElement(*Element, Child, Reading);
+    ReadElement(*Element, Parts, Reading);
   }
 }
 
@@ -96,8 +111,8 @@ Ref<IRTTIElementList> LoadList(Ref<IRTTIElementList> List, pugi::xml_node Node, 
   return List;
 }
 
-Ref<IRTTIElementList> LoadFreshList(pugi::xml_node Parent, const char* Role, TReading& Reading) {
-  return LoadList(MakeRef<TRTTIElementList>(), Parent.child(Role), Reading);
+Ref<IRTTIElementList> LoadFreshList(const TElementNode& Parent, TRoleName Role, TReading& Reading) {
+  return LoadList(MakeRef<TRTTIElementList>(), Parent.Role(Role), Reading);
 }
 
 void WriteSingle(IRTTIElement* Element, pugi::xml_node Parent, const char* Role, bool Always) {

@@ -40,7 +40,7 @@ void WriteMethodCallXML(IRTTIElement& Element, pugi::xml_node Node) {
   WriteList(Params(Call.Getparams()), Node, "params", false);
 }
 
-void ReadMethodCallXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+void ReadMethodCallXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   ReadValueXML(Element, Node, Reading);
   auto& Call = As<TRTTIMethodCall>(Element);
   Call.Setclassref(LoadSingle<IRTTIValue>(Node, "classref", Reading));
@@ -52,7 +52,7 @@ void WritePropertyRefXML(IRTTIElement& Element, pugi::xml_node Node) {
   WriteSingle(As<TRTTIPropertyRef>(Element).Getclassref().get(), Node, "classref", false);
 }
 
-void ReadPropertyRefXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+void ReadPropertyRefXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   ReadValueXML(Element, Node, Reading);
   As<TRTTIPropertyRef>(Element).Setclassref(LoadSingle<IRTTIValue>(Node, "classref", Reading));
 }
@@ -66,7 +66,7 @@ void WriteCollectionMethodXML(IRTTIElement& Element, pugi::xml_node Node) {
   WriteList(Params(Method.Getparams()), Node, "params", false);
 }
 
-void ReadCollectionMethodXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+void ReadCollectionMethodXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   ReadValueXML(Element, Node, Reading);
   auto& Method = As<TRTTICollectionMethod>(Element);
   Method.Setiterator(LoadSingle<IRTTIProperty>(Node, "iterator", Reading));
@@ -85,7 +85,7 @@ void WriteConditionalXML(IRTTIElement& Element, pugi::xml_node Node) {
   WriteSingle(Conditional.GetElsePart().get(), Node, "elsepart", true);
 }
 
-void ReadConditionalXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+void ReadConditionalXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   ReadValueXML(Element, Node, Reading);
   auto& Conditional = As<TRTTIConditional>(Element);
   Conditional.SetCondition(LoadSingle<IRTTIValue>(Node, "condition", Reading));
@@ -100,7 +100,7 @@ void WriteStatementsXML(IRTTIElement& Element, pugi::xml_node Node) {
   WriteSingle(Block.GetReturnValue().get(), Node, "returnvalue", false);
 }
 
-void ReadStatementsXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+void ReadStatementsXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   ReadValueXML(Element, Node, Reading);
   auto& Block = As<TRTTIStatements>(Element);
   Block.SetDeclaratives(LoadFreshList(Node, "declaratives", Reading));
@@ -112,7 +112,7 @@ void WriteTupleValueXML(IRTTIElement& Element, pugi::xml_node Node) {
   WriteList(As<TRTTITupleValue>(Element).GetValues().get(), Node, "values", true);
 }
 
-void ReadTupleValueXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+void ReadTupleValueXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   ReadValueXML(Element, Node, Reading);
   auto& Tuple = As<TRTTITupleValue>(Element);
   Tuple.SetValues(LoadFreshList(Node, "values", Reading));
@@ -124,7 +124,7 @@ void WriteCollectionValueXML(IRTTIElement& Element, pugi::xml_node Node) {
   WriteList(As<TRTTICollectionValue>(Element).GetElements().get(), Node, "elements", true);
 }
 
-void ReadCollectionValueXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+void ReadCollectionValueXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   ReadValueXML(Element, Node, Reading);
   As<TRTTICollectionValue>(Element).SetElements(LoadFreshList(Node, "elements", Reading));
 }
@@ -136,10 +136,10 @@ void WritePragmaXML(IRTTIElement& Element, pugi::xml_node Node) {
   WriteList(Pragma.Getpragmas().get(), Node, "pragmas", true);
 }
 
-void ReadPragmaXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+void ReadPragmaXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   ReadValueXML(Element, Node, Reading);
   auto& Pragma = As<TRTTIPragma>(Element);
-  Pragma.Setdirective(Text(Node, "directive"));
+  Pragma.Setdirective(FromUTF8(Node.Attribute("directive")));
   Pragma.Setpragmas(LoadFreshList(Node, "pragmas", Reading));
 }
 

@@ -20,10 +20,6 @@ bool IsTrue(std::string_view Text, bool Default) {
   return Default;
 }
 
-std::string_view Attribute(pugi::xml_node Node, const char* Name) {
-  return Node.attribute(Name).as_string();
-}
-
 }  // namespace
 
 void WriteElementXML(IRTTIElement& Element, pugi::xml_node Node) {
@@ -32,11 +28,11 @@ void WriteElementXML(IRTTIElement& Element, pugi::xml_node Node) {
   if (const String Note = Element.GetAnnotation(); !Note.empty()) SetText(Node, "annotation", Note);
 }
 
-void ReadElementXML(IRTTIElement& Element, pugi::xml_node Node, TReading&) {
+void ReadElementXML(IRTTIElement& Element, const TElementNode& Node, TReading&) {
   // Most elements were just made under this very name.
-  if (const std::string_view Name = Attribute(Node, "name"); !SameText(Element.GetName(), Name))
+  if (const std::string_view Name = Node.Attribute("name"); !SameText(Element.GetName(), Name))
     Element.SetName(FromUTF8(Name));
-  Element.SetAnnotation(Text(Node, "annotation"));
+  Element.SetAnnotation(FromUTF8(Node.Attribute("annotation")));
 }
 
 void WriteScopeXML(IRTTIElement& Element, pugi::xml_node Node) {
@@ -49,12 +45,12 @@ void WriteScopeXML(IRTTIElement& Element, pugi::xml_node Node) {
     WriteList(Statements.get(), Node, "statements", true);
 }
 
-void ReadScopeXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+void ReadScopeXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   ReadElementXML(Element, Node, Reading);
   auto& Scope = As<IRTTIScope>(Element);
-  Scope.SetOwnsMembers(IsTrue(Attribute(Node, "ownsMembers"), true));
-  Scope.SetMembers(LoadList(Scope.GetMembers(), Node.child("members"), Reading));
-  Scope.SetStatements(LoadList(nullptr, Node.child("statements"), Reading));
+  Scope.SetOwnsMembers(IsTrue(Node.Attribute("ownsMembers"), true));
+  Scope.SetMembers(LoadList(Scope.GetMembers(), Node.Role("members"), Reading));
+  Scope.SetStatements(LoadList(nullptr, Node.Role("statements"), Reading));
 }
 
 void WritePackageXML(IRTTIElement& Element, pugi::xml_node Node) {
@@ -64,10 +60,10 @@ void WritePackageXML(IRTTIElement& Element, pugi::xml_node Node) {
   WriteSingle(Package.GetMainBlock().get(), Node, "mainblock", false);
 }
 
-void ReadPackageXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+void ReadPackageXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   ReadScopeXML(Element, Node, Reading);
   // The main block is written for readers of the file, never read back.
-  As<IRTTIPackage>(Element).SetImports(LoadList(nullptr, Node.child("imports"), Reading));
+  As<IRTTIPackage>(Element).SetImports(LoadList(nullptr, Node.Role("imports"), Reading));
 }
 
 void WriteClassXML(IRTTIElement& Element, pugi::xml_node Node) {
@@ -78,19 +74,19 @@ void WriteClassXML(IRTTIElement& Element, pugi::xml_node Node) {
   WriteList(Class.GetEnums().get(), Node, "enums", false);
 }
 
-void ReadClassXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+void ReadClassXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   ReadScopeXML(Element, Node, Reading);
   auto& Class = As<IRTTIClass>(Element);
-  if (const Ref<IRTTIClass>& Ancestor = Reading.ClassNamed(Attribute(Node, "ancestor")))
+  if (const Ref<IRTTIClass>& Ancestor = Reading.ClassNamed(Node.Attribute("ancestor")))
     Class.SetAncestor(Ancestor);
-  std::string ElementName(Attribute(Node, "elementtype"));
+  std::string ElementName(Node.Attribute("elementtype"));
   // Set(Integer) read without an element type has Integer.
   if (ElementName.empty())
     if (auto* Generic = CachedCast<TRTTIClass>(&Element))
       ElementName = ToUTF8(Generic->ExtractElementName());
   if (const Ref<IRTTIClass>& ElementType = Reading.ClassNamed(ElementName))
     Class.SetElementType(ElementType);
-  Class.SetEnums(LoadList(nullptr, Node.child("enums"), Reading));
+  Class.SetEnums(LoadList(nullptr, Node.Role("enums"), Reading));
   Class.SetResolved(true);
 }
 
@@ -99,9 +95,9 @@ void WriteClassAliasXML(IRTTIElement& Element, pugi::xml_node Node) {
   SetClassName(Node, "actualclass", As<TRTTIClassAlias>(Element).GetActualClass().get());
 }
 
-void ReadClassAliasXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+void ReadClassAliasXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   ReadScopeXML(Element, Node, Reading);
-  As<TRTTIClassAlias>(Element).SetActualClass(Reading.ClassNamed(Attribute(Node, "actualclass")));
+  As<TRTTIClassAlias>(Element).SetActualClass(Reading.ClassNamed(Node.Attribute("actualclass")));
 }
 
 void WriteMethodXML(IRTTIElement& Element, pugi::xml_node Node) {
@@ -112,15 +108,15 @@ void WriteMethodXML(IRTTIElement& Element, pugi::xml_node Node) {
   WriteSingle(Method.GetResultValue().get(), Node, "value", false);
 }
 
-void ReadMethodXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+void ReadMethodXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   ReadElementXML(Element, Node, Reading);
   auto& Method = As<IRTTIMethod>(Element);
-  if (const Ref<IRTTIClass>& Type = Reading.ClassNamed(Attribute(Node, "type")))
+  if (const Ref<IRTTIClass>& Type = Reading.ClassNamed(Node.Attribute("type")))
     Method.SetResultType(Type);
   // A new method's own empty list takes the parameters; one that has some gets a fresh list.
   Ref<IRTTIElementList> Params = Method.GetParams();
   if (!Params || Params->GetCount() > 0) Params = MakeRef<TRTTIElementList>();
-  Method.SetParams(LoadList(Params, Node.child("parameters"), Reading));
+  Method.SetParams(LoadList(Params, Node.Role("parameters"), Reading));
   Method.SetResultValue(LoadSingle<IRTTIValue>(Node, "value", Reading));
 }
 
@@ -131,10 +127,10 @@ void WritePropertyXML(IRTTIElement& Element, pugi::xml_node Node) {
   WriteSingle(Property.GetPropertyValue().get(), Node, "value", false);
 }
 
-void ReadPropertyXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+void ReadPropertyXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   ReadElementXML(Element, Node, Reading);
   auto& Property = As<IRTTIProperty>(Element);
-  if (const Ref<IRTTIClass>& Type = Reading.ClassNamed(Attribute(Node, "type")))
+  if (const Ref<IRTTIClass>& Type = Reading.ClassNamed(Node.Attribute("type")))
     Property.SetPropertyType(Type);
   Property.SetPropertyValue(LoadSingle<IRTTIValue>(Node, "value", Reading));
 }
@@ -144,10 +140,10 @@ void WriteValueXML(IRTTIElement& Element, pugi::xml_node Node) {
   SetClassName(Node, "type", As<IRTTIValue>(Element).GetValueType().get());
 }
 
-void ReadValueXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+void ReadValueXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   ReadElementXML(Element, Node, Reading);
   auto& Value = As<IRTTIValue>(Element);
-  const std::string_view TypeName = Attribute(Node, "type");
+  const std::string_view TypeName = Node.Attribute("type");
   // A node made with its type already keeps that type object; only its name is ever written.
   if (Ref<IRTTIClass> Type = Value.GetValueType()) {
     if (!TypeName.empty()) Type->SetName(FromUTF8(TypeName));
@@ -161,9 +157,9 @@ void WriteLiteralXML(IRTTIElement& Element, pugi::xml_node Node) {
   SetText(Node, "value", As<IRTTILiteral>(Element).GetasString());
 }
 
-void ReadLiteralXML(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
+void ReadLiteralXML(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   ReadValueXML(Element, Node, Reading);
-  As<IRTTILiteral>(Element).SetasString(Text(Node, "value"));
+  As<IRTTILiteral>(Element).SetasString(FromUTF8(Node.Attribute("value")));
 }
 
 }  // namespace gello::forms

@@ -35,12 +35,16 @@ std::vector<String> RegisteredKinds() {
   return Kinds;
 }
 
-Ref<IRTTIElement> CreateForReader(StringView Kind, String Name) {
-  if (Kind.empty()) return nullptr;
+TElementFactory ElementFactoryFor(StringView Kind) {
   auto Found = Registry().find(Kind);
   if (Found == Registry().end())
     throw Exception(u"RTTI class name not registered : TRTTI" + String(Kind));
-  return Found->second(std::move(Name));
+  return Found->second;
+}
+
+Ref<IRTTIElement> CreateForReader(StringView Kind, String Name) {
+  if (Kind.empty()) return nullptr;
+  return ElementFactoryFor(Kind)(std::move(Name));
 }
 
 }  // namespace gello

@@ -145,6 +145,22 @@ TEST_F(NativeXMLTest, ReadingRulesAndDefaults) {
   EXPECT_FALSE(LoadFromXMLNode(Empty.append_child("classref"), Globals.get()));
 }
 
+TEST_F(NativeXMLTest, OnlyTheFirstNodeOrAttributeOfItsNameIsRead) {
+  // Names that begin or end like the form's own are not taken for them; comments and text
+  // between the nodes are passed over.
+  auto Package = Read(
+      "<GELLO kind='Package' name='P'><members>"
+      "<e kind='Method' name='m' typ='Real' types='Real' type='Integer' type2='Real'>"
+      "<!-- note -->text<valu kind='IntegerLiteral' value='7'/>"
+      "<value kind='IntegerLiteral' value='1'/><value kind='IntegerLiteral' value='2'/>"
+      "<parameters><p kind='Property' name='a'/></parameters><parameters/></e>"
+      "</members></GELLO>");
+  auto Method = Package->Find<IRTTIMethod>(u"m");
+  EXPECT_EQ(Method->GetResultType(), Globals->Get_Integer());
+  EXPECT_EQ(DynCast<IRTTILiteral>(Method->GetResultValue())->GetasString(), u"1");
+  EXPECT_EQ(Method->GetParams()->GetCount(), 1);
+}
+
 TEST_F(NativeXMLTest, EachTypeNameIsOnePlaceholderThroughoutARead) {
   // Enough names that the table of names read grows several times over.
   constexpr int Names = 300;

@@ -32,4 +32,7 @@ std::vector<String> RegisteredKinds();
 /// A new element of that kind and name; empty for an empty kind; raises for an unknown kind.
 Ref<IRTTIElement> CreateForReader(StringView Kind, String Name);
 
+/// The factory registered for a kind word; raises, as creating would, when none is.
+TElementFactory ElementFactoryFor(StringView Kind);
+
 }  // namespace gello
