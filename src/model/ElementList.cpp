@@ -11,13 +11,12 @@
 namespace gello {
 
 // The tables of a long list: the newest element of each name (named ones in a compact table, the
-// newest unnamed one beside it), the earlier elements of names held more than once, oldest first,
-// and how often each element is held.
+// newest unnamed one beside it) and the earlier elements of names held more than once, oldest
+// first.
 struct TRTTIElementList::TIndex {
   TNameTable Names;
   IRTTIElement* Unnamed = nullptr;
   std::unordered_map<String, std::vector<IRTTIElement*>> Older;
-  std::unordered_map<IRTTIElement*, int> Held;
 
   IRTTIElement* Newest(const String& Key) const { return Key.empty() ? Unnamed : Names.Find(Key); }
 
@@ -33,12 +32,22 @@ struct TRTTIElementList::TIndex {
   void Add(const String& Key, IRTTIElement* Element) {
     if (IRTTIElement* Earlier = Newest(Key)) Older[Key].push_back(Earlier);
     SetNewest(Key, Element);
-    ++Held[Element];
+  }
+
+  // Names are written once, so an element is filed under its name, or under none when it had
+  // none as it was added.
+  bool Holds(IRTTIElement* Element) const {
+    return Holds(Element->GetName(), Element) || Holds(String(), Element);
+  }
+
+  bool Holds(const String& Key, IRTTIElement* Element) const {
+    if (Newest(Key) == Element) return true;
+    auto Earlier = Older.find(Key);
+    return Earlier != Older.end() && std::find(Earlier->second.begin(), Earlier->second.end(),
+                                               Element) != Earlier->second.end();
   }
 
   void Remove(const String& Key, IRTTIElement* Element) {
-    auto Count = Held.find(Element);
-    if (--Count->second == 0) Held.erase(Count);
     auto Earlier = Older.find(Key);
     if (Earlier == Older.end()) {
       SetNewest(Key, nullptr);  // the last of its name
@@ -172,7 +181,7 @@ void TRTTIElementList::Clear() {
 }
 
 bool TRTTIElementList::Exists(IRTTIElement* Element) const {
-  if (FIndex) return FIndex->Held.contains(Element);
+  if (FIndex) return Element && FIndex->Holds(Element);
   return std::any_of(FItems.begin(), FItems.end(),
                      [Element](const TItem& Item) { return Item.Element.get() == Element; });
 }

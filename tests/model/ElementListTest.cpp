@@ -89,8 +89,12 @@ TEST_P(ElementListNames, IndexAgreesWithTheListThroughEqualNamesAndChanges) {
   Unnamed->SetName(u"late");
   EXPECT_FALSE(List->GetItemByName(u"late"));
   EXPECT_EQ(List->GetItemByName(u""), Unnamed);
+  EXPECT_TRUE(List->Exists(Unnamed.get()));
+  EXPECT_FALSE(List->Exists(Named(u"b").get()));  // another element of a name held
+  EXPECT_FALSE(List->Exists(nullptr));
   List->Delete(List->GetCount() - 1);
   EXPECT_FALSE(List->GetItemByName(u""));
+  EXPECT_FALSE(List->Exists(Unnamed.get()));
   List->Clear();
   EXPECT_FALSE(List->GetItemByName(u"b"));
 }
