@@ -19,7 +19,7 @@ std::size_t IndexIn(const std::array<std::string_view, N>& Names, const char* Na
 
 }  // namespace
 
-TElementNode::TElementNode(pugi::xml_node Node) : FNode(Node) {
+TElementNode::TElementNode(pugi::xml_node Node) {
   for (pugi::xml_attribute Attribute = Node.first_attribute(); Attribute;
        Attribute = Attribute.next_attribute()) {
     const std::size_t i = IndexIn(AttributeNames, Attribute.name());

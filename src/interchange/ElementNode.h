@@ -1,7 +1,7 @@
 #pragma once
 // An element node of the native form with the attributes and role nodes its kind's parts read,
 // each found in one pass: every node of a large model is asked the same questions, and a search
-// by name for each answer costs as much as the parse itself.
+// by name scanned the node's attributes or children again for each of them.
 #include <pugixml.hpp>
 
 #include <array>
@@ -35,18 +35,16 @@ struct TFormName {
 using TAttributeName = TFormName<AttributeNames>;
 using TRoleName = TFormName<RoleNames>;
 
-/// An element node, its attributes and role nodes gathered as XML reads them: the first by a name.
+/// An element node's attributes and role nodes: the first of each name, as a look-up would find.
 class TElementNode {
  public:
   explicit TElementNode(pugi::xml_node Node);
-  pugi::xml_node Node() const { return FNode; }
   /// The attribute's text; empty when the node has none by that name.
   std::string_view Attribute(TAttributeName Name) const { return FAttributes[Name.Index]; }
   /// The child node that plays Role; an empty node when there is none.
   pugi::xml_node Role(TRoleName Name) const { return pugi::xml_node(FRoles[Name.Index]); }
 
  private:
-  pugi::xml_node FNode;
   std::array<std::string_view, AttributeNames.size()> FAttributes{};
   // Kept as pugixml's own node pointers: its handles are built by calls into the library.
   std::array<pugi::xml_node_struct*, RoleNames.size()> FRoles{};
