@@ -176,29 +176,21 @@ double Fastest(const std::vector<double>& Times) {
   return *std::min_element(Times.begin(), Times.end());
 }
 
+// Each of the load's figures: one load a repetition, five repetitions, median and best.
+void RepeatedTimings(benchmark::internal::Benchmark* Benchmark) {
+  Benchmark->Unit(benchmark::kMillisecond)
+      ->Iterations(1)
+      ->Repetitions(5)
+      ->ComputeStatistics("min", Fastest);
+}
+
 }  // namespace
 
 BENCHMARK(BM_Save)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(3);
-BENCHMARK(BM_Load)
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(1)
-    ->Repetitions(5)
-    ->ComputeStatistics("min", Fastest);
-BENCHMARK(BM_LoadDocument)
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(1)
-    ->Repetitions(5)
-    ->ComputeStatistics("min", Fastest);
-BENCHMARK(BM_ParseAndVisit)
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(1)
-    ->Repetitions(5)
-    ->ComputeStatistics("min", Fastest);
-BENCHMARK(BM_BareParse)
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(1)
-    ->Repetitions(5)
-    ->ComputeStatistics("min", Fastest);
+BENCHMARK(BM_Load)->Apply(RepeatedTimings);
+BENCHMARK(BM_LoadDocument)->Apply(RepeatedTimings);
+BENCHMARK(BM_ParseAndVisit)->Apply(RepeatedTimings);
+BENCHMARK(BM_BareParse)->Apply(RepeatedTimings);
 
 // Fresh pages from the kernel cost more than parsing on a virtual machine, and whether a run gets
 // them depends on what the run before it gave back. The heap keeps what it gets, so every figure
