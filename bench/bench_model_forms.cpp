@@ -16,6 +16,7 @@
 #include "gello/expr/ControlNodes.h"
 #include "gello/expr/Literals.h"
 #include "gello/expr/Navigation.h"
+#include "gello/interchange/PackageFiles.h"
 #include "gello/interchange/XMLDocument.h"
 #include "gello/model/Class.h"
 #include "gello/model/ElementList.h"
@@ -87,7 +88,7 @@ struct TModelFile {
       std::filesystem::temp_directory_path() / ("gello-bench-model-" + std::to_string(getpid()));
   TModelFile() {
     auto Globals = MakeRef<TRTTIGlobals>();
-    Model(*Globals)->SaveToFile(Path.u16string());
+    SaveToFile(*Model(*Globals), Path.u16string());
     Globals->Clear();
   }
   ~TModelFile() { std::filesystem::remove(Path); }
@@ -103,7 +104,7 @@ void BM_Save(benchmark::State& State) {
   Ref<TRTTIPackage> Package = Model(*Globals);
   const std::filesystem::path Path = File().Path.string() + ".save";
   for (auto _ : State)
-    Package->SaveToFile(Path.u16string());
+    SaveToFile(*Package, Path.u16string());
   State.counters["MB"] = static_cast<double>(std::filesystem::file_size(Path)) / 1e6;
   std::filesystem::remove(Path);
   Globals->Clear();
@@ -114,7 +115,7 @@ void BM_Load(benchmark::State& State) {
   for (auto _ : State) {
     auto Globals = MakeRef<TRTTIGlobals>();
     auto Package = MakeRef<TRTTIPackage>(String());
-    Package->LoadFromFile(Path, Globals.get());
+    LoadFromFile(*Package, Path, Globals.get());
     State.PauseTiming();
     Package->Clear();
     Globals->Clear();

@@ -1,6 +1,6 @@
 #include "gello/instance/Instance.h"
 
-#include "PropertySlots.h"
+#include "../model/PropertySlots.h"
 #include "gello/foundation/Exceptions.h"
 #include "gello/instance/CollectionInstance.h"
 #include "gello/instance/DataCells.h"
@@ -36,9 +36,15 @@ Ref<IRTTIClassInstance> TRTTIClassInstance::CreateFromClass(const Ref<IRTTIClass
   return nullptr;
 }
 
-Ref<IRTTIClassInstance> NewClassInstance(const String& ClassName) {
+namespace {
+
+Ref<IRTTIClassInstance> MakeStandAlone(const String& ClassName) {
   return MakeRef<TRTTIClassInstance>(MakeRef<TRTTIClass>(ClassName));
 }
+
+[[maybe_unused]] const bool MakerInstalled = (SetClassInstanceMaker(MakeStandAlone), true);
+
+}  // namespace
 
 Ref<IRTTIClassInstance> TRTTIClassInstance::ClassFactory(const String& ClassName) {
   return NewClassInstance(ClassName);

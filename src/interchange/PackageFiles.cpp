@@ -1,10 +1,13 @@
 // A package's native model files, and its stream form: the header, then the same document.
+#include "gello/interchange/PackageFiles.h"
+
+#include <filesystem>
 #include <fstream>
 
 #include "gello/foundation/Exceptions.h"
 #include "gello/interchange/NativeXML.h"
 #include "gello/interchange/XMLDocument.h"
-#include "gello/model/Package.h"
+#include "gello/model/Names.h"
 
 namespace gello {
 namespace {
@@ -12,7 +15,7 @@ namespace {
 // All three exports write their documents the same way: indented, UTF-8.
 constexpr unsigned OutputFormat = pugi::format_indent;
 
-void BuildDocument(pugi::xml_document& Document, TRTTIPackage& Package) {
+void BuildDocument(pugi::xml_document& Document, IRTTIPackage& Package) {
   pugi::xml_node Root = Document.append_child("GELLO");
   Root.append_attribute("xmlns").set_value(GelloModelNamespace);
   WriteXML(Package, Root);
@@ -20,20 +23,27 @@ void BuildDocument(pugi::xml_document& Document, TRTTIPackage& Package) {
 
 }  // namespace
 
-void TRTTIPackage::LoadFromFile(const String& FileName, IRTTIGlobals* Globals) {
-  pugi::xml_document Document;
-  LoadXMLDocument(Document, FileName);
-  ReadXML(*this, Document.child("GELLO"), Globals);
+Ref<TRTTIPackage> CreatePackageFromFile(const String& FileName, IRTTIGlobals* Globals) {
+  String Stem = std::filesystem::path(FileName).stem().u16string();
+  auto Package = MakeRef<TRTTIPackage>(ValidGelloName(Stem));
+  LoadFromFile(*Package, FileName, Globals);
+  return Package;
 }
 
-void TRTTIPackage::SaveToFile(const String& FileName) {
+void LoadFromFile(IRTTIPackage& Package, const String& FileName, IRTTIGlobals* Globals) {
   pugi::xml_document Document;
-  BuildDocument(Document, *this);
+  LoadXMLDocument(Document, FileName);
+  ReadXML(Package, Document.child("GELLO"), Globals);
+}
+
+void SaveToFile(IRTTIPackage& Package, const String& FileName) {
+  pugi::xml_document Document;
+  BuildDocument(Document, Package);
   if (!Document.save_file(ToUTF8(FileName).c_str(), "  ", OutputFormat, pugi::encoding_utf8))
     throw Exception(u"Cannot create file \"" + FileName + u"\"");
 }
 
-void TRTTIPackage::SaveToStream(const String& FileName) {
+void SaveToStream(IRTTIPackage& Package, const String& FileName) {
   std::ofstream Stream(ToUTF8(FileName), std::ios::binary | std::ios::trunc);
   if (!Stream) throw Exception(u"Cannot create file \"" + FileName + u"\"");
   // The header was always written with its character count as byte count: 13 bytes of
@@ -46,7 +56,7 @@ void TRTTIPackage::SaveToStream(const String& FileName) {
   }
   Stream.write(Bytes.data(), static_cast<std::streamsize>(Header.size()));
   pugi::xml_document Document;
-  BuildDocument(Document, *this);
+  BuildDocument(Document, Package);
   Document.save(Stream, "  ", OutputFormat, pugi::encoding_utf8);
   if (!Stream) throw Exception(u"Cannot write file \"" + FileName + u"\"");
 }

@@ -1,7 +1,7 @@
 #include "gello/model/Globals.h"
 
-#include "gello/expr/Generic.h"
 #include "gello/model/Class.h"
+#include "gello/model/Generic.h"
 
 namespace gello {
 

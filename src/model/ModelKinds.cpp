@@ -2,7 +2,7 @@
 #include "gello/model/Class.h"
 #include "gello/model/ClassAlias.h"
 #include "gello/model/ElementRegistry.h"
-#include "gello/model/Factory.h"
+#include "gello/model/Generic.h"
 #include "gello/model/Globals.h"
 #include "gello/model/Method.h"
 #include "gello/model/Package.h"
@@ -19,7 +19,7 @@ namespace {
                 RTTIClassOf<TRTTIProperty>(),
                 RTTIClassOf<TRTTIMethod>(),
                 RTTIClassOf<TRTTIPackage>(),
-                RTTIClassOf<TRTTIFactory>(),
+                RTTIClassOf<TRTTIGeneric>(),
                 // The global scope is always named "Globals".
                 {String(TRTTIGlobals::KindName),
                  [](String) -> Ref<IRTTIElement> { return MakeRef<TRTTIGlobals>(); }}});

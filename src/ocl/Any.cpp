@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <typeinfo>
 #include "gello/foundation/Exceptions.h"
-#include "gello/instance/Instance.h"
+#include "gello/model/ClassInstance.h"
 #include "gello/ocl/Boolean.h"
 #include "gello/ocl/Null.h"
 #include "gello/ocl/Set.h"

@@ -1,20 +1,20 @@
 #include "gello/ocl/StringMaker.h"
 
-#include <atomic>
 #include "gello/foundation/Exceptions.h"
+#include "gello/foundation/InstalledFunction.h"
 
 namespace gello {
 
 namespace {
-std::atomic<TOCLStringMaker> Registered{nullptr};
+TInstalledFunction<Ref<IOCLString>(const String&)> Registered;
 }  // namespace
 
 void SetOCLStringMaker(TOCLStringMaker Maker) noexcept {
-  Registered.store(Maker, std::memory_order_release);
+  Registered.Install(Maker);
 }
 
 Ref<IOCLString> MakeOCLString(const String& Text) {
-  TOCLStringMaker Maker = Registered.load(std::memory_order_acquire);
+  TOCLStringMaker Maker = Registered.Get();
   if (!Maker) throw EOCLException(u"Internal OCL error: no String value class registered");
   return Maker(Text);
 }

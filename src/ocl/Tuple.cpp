@@ -1,6 +1,6 @@
 #include "gello/ocl/Tuple.h"
 
-#include "../instance/PropertySlots.h"
+#include "../model/PropertySlots.h"
 #include "gello/foundation/Exceptions.h"
 #include "gello/ocl/SystemClasses.h"
 

@@ -3,10 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "gello/expr/DebugInfo.h"
-#include "gello/expr/Generic.h"
 #include "gello/foundation/Exceptions.h"
 #include "gello/model/Class.h"
 #include "gello/model/ElementRegistry.h"
+#include "gello/model/Generic.h"
 #include "gello/model/Scope.h"
 
 using namespace gello;

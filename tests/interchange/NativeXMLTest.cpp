@@ -8,6 +8,7 @@
 #include "FormsFixture.h"
 #include "gello/expr/Literals.h"
 #include "gello/foundation/Exceptions.h"
+#include "gello/interchange/PackageFiles.h"
 #include "gello/model/Class.h"
 #include "gello/model/ClassAlias.h"
 #include "gello/model/ElementList.h"
@@ -64,7 +65,7 @@ struct NativeXMLTest : FormsFixture {
 }  // namespace
 
 TEST_F(NativeXMLTest, SavedLoadedAndSavedAgainGivesTheSameDocument) {
-  Clinic()->SaveToFile((Dir / "first.xml").u16string());
+  SaveToFile(*Clinic(), (Dir / "first.xml").u16string());
   const std::string First = FileText(Dir / "first.xml");
   EXPECT_NE(First.find("<GELLO xmlns=\"http://gello.invalid/gello/1.1\" kind=\"Package\" "
                        "name=\"Clinic\" ownsMembers=\"true\">"),
@@ -76,9 +77,9 @@ TEST_F(NativeXMLTest, SavedLoadedAndSavedAgainGivesTheSameDocument) {
 
   auto Again = MakeRef<TRTTIGlobals>();
   auto Loaded = MakeRef<TRTTIPackage>(u"Clinic");
-  Loaded->LoadFromFile((Dir / "first.xml").u16string(), Again.get());
+  LoadFromFile(*Loaded, (Dir / "first.xml").u16string(), Again.get());
   Again->AddMember(Loaded);
-  Loaded->SaveToFile((Dir / "second.xml").u16string());
+  SaveToFile(*Loaded, (Dir / "second.xml").u16string());
   // The main block is written but never read, so only it is missing the second time.
   std::string Expected = First;
   const std::size_t Main = Expected.find("  <mainblock");
@@ -223,7 +224,33 @@ TEST_F(NativeXMLTest, BadInputEndsInTheSystemsMessages) {
   } catch (const EAssertionFailed& Failure) {
     EXPECT_EQ(Failure.Text(), u"Reassigning element.name from Clinic to Other");
   }
-  EXPECT_THROW(Named->LoadFromFile((Dir / "missing.xml").u16string(), Globals.get()), Exception);
+  EXPECT_THROW(LoadFromFile(*Named, (Dir / "missing.xml").u16string(), Globals.get()), Exception);
+}
+
+TEST_F(NativeXMLTest, StreamFormIsTheHeaderThenTheDocument) {
+  SaveToStream(*Clinic(), (Dir / "clinic.pkg").u16string());
+  const std::string Bytes = FileText(Dir / "clinic.pkg");
+  EXPECT_EQ(Bytes.substr(0, 13), std::string("G\0E\0L\0L\0O\0_\0P", 13));
+  EXPECT_NE(Bytes.find("name=\"Clinic\"", 13), std::string::npos);
+  try {
+    SaveToStream(*Clinic(), u"/nonexistent-dir/x.pkg");
+    ADD_FAILURE() << "an unwritable stream file must raise";
+  } catch (const Exception& Failure) {
+    EXPECT_EQ(Failure.Message(), u"Cannot create file \"/nonexistent-dir/x.pkg\"");
+  }
+}
+
+TEST_F(NativeXMLTest, PackageMadeFromAFileIsNamedByIt) {
+  // Whatever the suffix, the name is the file's, made valid; the document may not rename it.
+  std::ofstream(Dir / "Clinic.model.gello") << "<GELLO kind='Package' name='Clinic_model'>"
+                                               "<members><e kind='Class' name='Ward'/></members>"
+                                               "</GELLO>";
+  auto Package = CreatePackageFromFile((Dir / "Clinic.model.gello").u16string(), Globals.get());
+  EXPECT_EQ(Package->GetName(), u"Clinic_model");
+  EXPECT_TRUE(Package->Find<IRTTIClass>(u"Ward"));
+  std::ofstream(Dir / "ward.xml") << "<GELLO kind='Package' name='Clinic'/>";
+  EXPECT_THROW(CreatePackageFromFile((Dir / "ward.xml").u16string(), Globals.get()),
+               EAssertionFailed);
 }
 
 TEST_F(NativeXMLTest, DeclaredEncodingsAreConvertedBeforeParsing) {

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "MadeClasses.h"
-#include "gello/expr/Generic.h"
 #include "gello/expr/Literals.h"
 #include "gello/foundation/Log.h"
 #include "gello/model/Class.h"
 #include "gello/model/ElementList.h"
+#include "gello/model/Generic.h"
 #include "gello/model/Method.h"
 #include "gello/model/Property.h"
 

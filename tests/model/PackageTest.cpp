@@ -144,19 +144,6 @@ TEST_F(PackageTest, BuildFactoryMakesOneConstructorPerConcreteClass) {
   EXPECT_NE(Package->FindClass(u"Factory"), Factory);
 }
 
-TEST_F(PackageTest, SaveToStreamWritesThe13ByteHeader) {
-  const std::filesystem::path File =
-      std::filesystem::temp_directory_path() / ("gello-package-" + std::to_string(getpid()));
-  Package->SaveToStream(FromUTF8(File.string()));
-  std::ifstream In(File, std::ios::binary);
-  const std::string Bytes((std::istreambuf_iterator<char>(In)), std::istreambuf_iterator<char>());
-  std::filesystem::remove(File);
-  EXPECT_EQ(Bytes.substr(0, 13), std::string("G\0E\0L\0L\0O\0_\0P", 13));
-  EXPECT_NE(Bytes.find("name=\"Clinic\"", 13), std::string::npos);  // then the native document
-  EXPECT_EQ(ErrorMessage([&] { Package->SaveToStream(u"/nonexistent-dir/x.pkg"); }),
-            u"Cannot create file \"/nonexistent-dir/x.pkg\"");
-}
-
 TEST_F(PackageTest, PackageListFindsPackagesWithoutOwningThem) {
   auto List = MakeRef<TRTTIPackageList>();
   List->AddMember(Package);

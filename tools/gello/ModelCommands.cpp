@@ -7,6 +7,7 @@
 #include "ModelSummary.h"
 #include "gello/foundation/Exceptions.h"
 #include "gello/interchange/JSONForm.h"
+#include "gello/interchange/PackageFiles.h"
 #include "gello/model/Globals.h"
 
 namespace gello::tool {
@@ -16,7 +17,7 @@ namespace {
 // classes it names are placeholders until resolving binds them.
 Ref<TRTTIPackage> LoadModel(const std::string& FileName, IRTTIGlobals& Globals) {
   auto Package = MakeRef<TRTTIPackage>(String());
-  Package->LoadFromFile(FromUTF8(FileName), &Globals);
+  LoadFromFile(*Package, FromUTF8(FileName), &Globals);
   Globals.AddMember(Package);
   return Package;
 }
@@ -33,7 +34,7 @@ void Convert(const std::string& In, const std::string& Out, const std::string& F
   auto Globals = MakeRef<TRTTIGlobals>();
   Ref<TRTTIPackage> Package = LoadModel(In, *Globals);
   if (Format == "xml") {
-    Package->SaveToFile(FromUTF8(Out));
+    SaveToFile(*Package, FromUTF8(Out));
   } else {
     std::ofstream Stream(Out, std::ios::binary | std::ios::trunc);
     Stream << GetasJSON(*Package).dump(2) << '\n';

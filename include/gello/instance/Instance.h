@@ -1,7 +1,7 @@
 #pragma once
 // Dynamic instances of model classes: property values kept by property index.
 #include <vector>
-#include "gello/instance/ClassInstance.h"
+#include "gello/model/ClassInstance.h"
 
 namespace gello {
 
@@ -54,8 +54,5 @@ class TRTTIClassInstance : public virtual IRTTIClassInstance {
   Ref<IRTTIClass> FInstanceType;
   std::vector<Ref<IRTTIClassInstance>> FValues;
 };
-
-/// A new stand-alone class named ClassName (no package, no ancestor) and an instance of it.
-Ref<IRTTIClassInstance> NewClassInstance(const String& ClassName);
 
 }  // namespace gello

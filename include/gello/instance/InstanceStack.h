@@ -2,7 +2,7 @@
 // A stack of instances, used while reading nested instance documents.
 #include <cstddef>
 #include <vector>
-#include "gello/instance/ClassInstance.h"
+#include "gello/model/ClassInstance.h"
 
 namespace gello {
 

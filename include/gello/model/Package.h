@@ -28,13 +28,6 @@ class TRTTIPackage : public TRTTIScope, public virtual IRTTIPackage {
   void Resolve(IRTTIScope* Scope) override;
   void Clear() override;
 
-  /// Reads a native model file (root "GELLO"); a file that is not well-formed XML raises.
-  void LoadFromFile(const String& FileName, IRTTIGlobals* Globals);
-  /// Writes the package as a native model file.
-  void SaveToFile(const String& FileName);
-  /// Writes the header "GELLO_PACKAGE" (its first 13 bytes of UTF-16), then the native form.
-  void SaveToStream(const String& FileName);
-
  private:
   Ref<IRTTIClass> FindQualified(const String& PackageName, const String& ClassName,
                                 IRTTIGlobals* Globals);

@@ -3,7 +3,7 @@
 // describes them by that order, so it must not change.
 #include <cstdint>
 #include "gello/foundation/Extended.h"
-#include "gello/instance/ClassInstance.h"
+#include "gello/model/ClassInstance.h"
 
 namespace gello {
 

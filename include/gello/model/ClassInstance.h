@@ -30,4 +30,11 @@ struct IRTTIClassInstance : virtual RefCounted {
   virtual void SetPropertyValue(int Index, const Ref<IRTTIClassInstance>& Value) = 0;
 };
 
+/// Makes a stand-alone class named ClassName and an instance of it.
+using TClassInstanceMaker = Ref<IRTTIClassInstance> (*)(const String& ClassName);
+/// Installed by the dynamic-instance classes when the library loads.
+void SetClassInstanceMaker(TClassInstanceMaker Maker) noexcept;
+/// A new stand-alone class named ClassName (no package, no ancestor) and an instance of it.
+Ref<IRTTIClassInstance> NewClassInstance(const String& ClassName);
+
 }  // namespace gello

@@ -1,4 +1,4 @@
-#include "gello/model/XmlNodes.h"
+#include "gello/interchange/XmlNodes.h"
 
 #include <string>
 
