@@ -1,11 +1,12 @@
 #pragma once
 // Control nodes and constructed values: conditional, statement block, tuple, collection, pragma.
 #include "gello/expr/Value.h"
+#include "gello/foundation/Export.h"
 
 namespace gello {
 
 /// if condition then thenPart else elsePart.
-class TRTTIConditional : public TRTTIValue {
+class GELLO_API TRTTIConditional : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"Conditional";
   explicit TRTTIConditional(String Name) : TRTTIValue(std::move(Name)) {}
@@ -31,7 +32,7 @@ class TRTTIConditional : public TRTTIValue {
 };
 
 /// A block of declarations and the value it returns; resolving needs both.
-class TRTTIStatements : public TRTTIValue {
+class GELLO_API TRTTIStatements : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"Statements";
   explicit TRTTIStatements(String Name) : TRTTIValue(std::move(Name)) {}
@@ -54,7 +55,7 @@ class TRTTIStatements : public TRTTIValue {
 };
 
 /// A tuple literal: each value's name is the name of its tuple part.
-class TRTTITupleValue : public TRTTIValue {
+class GELLO_API TRTTITupleValue : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"TupleValue";
   explicit TRTTITupleValue(String Name) : TRTTIValue(std::move(Name)) {}
@@ -73,7 +74,7 @@ class TRTTITupleValue : public TRTTIValue {
 };
 
 /// A collection literal.
-class TRTTICollectionValue : public TRTTIValue {
+class GELLO_API TRTTICollectionValue : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"CollectionValue";
   explicit TRTTICollectionValue(String Name) : TRTTIValue(std::move(Name)) {}
@@ -92,7 +93,7 @@ class TRTTICollectionValue : public TRTTIValue {
 };
 
 /// A compiler directive with its nested pragmas; only its type is resolved.
-class TRTTIPragma : public TRTTIValue {
+class GELLO_API TRTTIPragma : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"Pragma";
   explicit TRTTIPragma(String Name) : TRTTIValue(std::move(Name)) {}

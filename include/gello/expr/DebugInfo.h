@@ -1,11 +1,12 @@
 #pragma once
 // Source positions of compiled elements.
+#include "gello/foundation/Export.h"
 #include "gello/model/Interfaces.h"
 
 namespace gello {
 
 /// The source file and line an element was compiled from.
-class TRTTIDebugInfo : public virtual IRTTIDebugInfo {
+class GELLO_API TRTTIDebugInfo : public virtual IRTTIDebugInfo {
  public:
   TRTTIDebugInfo(const String& SourceFile, std::int32_t Line)
       : FSourceFile(SourceFile), FLineNumber(Line) {}

@@ -1,11 +1,12 @@
 #pragma once
 // The element stack the expression builder keeps its open nodes on.
+#include "gello/foundation/Export.h"
 #include "gello/model/ElementList.h"
 
 namespace gello {
 
 /// A stack of elements whose top is the list's last item.
-struct IRTTIElementStack : virtual IRTTIElementList {
+struct GELLO_API IRTTIElementStack : virtual IRTTIElementList {
   static constexpr GUID IID = GUIDLiteral("{B4615B17-224F-47EC-B7C6-1D57F84CA628}");
   virtual void Push(const Ref<IRTTIElement>& Element) = 0;
   virtual Ref<IRTTIElement> Pop() = 0;
@@ -15,7 +16,7 @@ struct IRTTIElementStack : virtual IRTTIElementList {
 };
 
 /// An element list used as a stack; Pop, GetTop and SetTop raise on an empty stack.
-class TRTTIElementStack : public TRTTIElementList, public virtual IRTTIElementStack {
+class GELLO_API TRTTIElementStack : public TRTTIElementList, public virtual IRTTIElementStack {
  public:
   void Push(const Ref<IRTTIElement>& Element) override { Add(Element); }
   Ref<IRTTIElement> Pop() override;

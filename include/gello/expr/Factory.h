@@ -1,11 +1,12 @@
 #pragma once
 // The value node that stands for making an instance of a class.
 #include "gello/expr/Value.h"
+#include "gello/foundation/Export.h"
 
 namespace gello {
 
 /// A value typed by the class it makes instances of.
-class TRTTIFactory : public TRTTIValue {
+class GELLO_API TRTTIFactory : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"Factory";
   using TRTTIValue::TRTTIValue;

@@ -1,13 +1,14 @@
 #pragma once
 // Constant nodes with a text form: what the model files store and printers show.
 #include <cstdint>
+#include "gello/foundation/Export.h"
 
 #include "gello/expr/Value.h"
 
 namespace gello {
 
 /// A constant value node; its text form is GetasString / SetasString.
-class TRTTILiteral : public TRTTIValue, public virtual IRTTILiteral {
+class GELLO_API TRTTILiteral : public TRTTIValue, public virtual IRTTILiteral {
  public:
   static constexpr StringView KindName = u"Literal";
   using TRTTIValue::TRTTIValue;
@@ -15,7 +16,7 @@ class TRTTILiteral : public TRTTIValue, public virtual IRTTILiteral {
 };
 
 /// A constant kept as its text, unchanged; read for the plain kind "Literal".
-class TRTTITextLiteral : public TRTTILiteral {
+class GELLO_API TRTTITextLiteral : public TRTTILiteral {
  public:
   using TRTTILiteral::TRTTILiteral;
   TRTTITextLiteral(const Ref<IRTTIClass>& Class, const String& Text);
@@ -27,7 +28,7 @@ class TRTTITextLiteral : public TRTTILiteral {
 };
 
 /// A string constant.
-class TRTTIStringLiteral : public TRTTITextLiteral {
+class GELLO_API TRTTIStringLiteral : public TRTTITextLiteral {
  public:
   static constexpr StringView KindName = u"StringLiteral";
   using TRTTITextLiteral::TRTTITextLiteral;
@@ -35,7 +36,7 @@ class TRTTIStringLiteral : public TRTTITextLiteral {
 };
 
 /// A 64-bit integer constant whose text is read back as a 32-bit integer.
-class TRTTIIntegerLiteral : public TRTTILiteral {
+class GELLO_API TRTTIIntegerLiteral : public TRTTILiteral {
  public:
   static constexpr StringView KindName = u"IntegerLiteral";
   explicit TRTTIIntegerLiteral(String Name) : TRTTILiteral(std::move(Name)) {}
@@ -51,7 +52,7 @@ class TRTTIIntegerLiteral : public TRTTILiteral {
 };
 
 /// A real constant held as a 64-bit float; its text goes through the engine's real form.
-class TRTTIRealLiteral : public TRTTILiteral {
+class GELLO_API TRTTIRealLiteral : public TRTTILiteral {
  public:
   static constexpr StringView KindName = u"RealLiteral";
   explicit TRTTIRealLiteral(String Name) : TRTTILiteral(std::move(Name)) {}
@@ -66,7 +67,7 @@ class TRTTIRealLiteral : public TRTTILiteral {
 };
 
 /// A three-valued boolean constant.
-class TRTTIBooleanLiteral : public TRTTILiteral {
+class GELLO_API TRTTIBooleanLiteral : public TRTTILiteral {
  public:
   static constexpr StringView KindName = u"BooleanLiteral";
   explicit TRTTIBooleanLiteral(String Name) : TRTTILiteral(std::move(Name)) {}
@@ -83,7 +84,7 @@ class TRTTIBooleanLiteral : public TRTTILiteral {
 };
 
 /// The null constant: always "null", whatever text it is given.
-class TRTTINullLiteral : public TRTTILiteral {
+class GELLO_API TRTTINullLiteral : public TRTTILiteral {
  public:
   static constexpr StringView KindName = u"NullLiteral";
   explicit TRTTINullLiteral(String Name) : TRTTILiteral(std::move(Name)) {}
@@ -94,7 +95,7 @@ class TRTTINullLiteral : public TRTTILiteral {
 };
 
 /// A constant that denotes a class by its name.
-class TRTTIClassLiteral : public TRTTITextLiteral {
+class GELLO_API TRTTIClassLiteral : public TRTTITextLiteral {
  public:
   static constexpr StringView KindName = u"ClassLiteral";
   using TRTTITextLiteral::TRTTITextLiteral;
@@ -102,7 +103,7 @@ class TRTTIClassLiteral : public TRTTITextLiteral {
 };
 
 /// A literal of an enumeration: its text is its name, its ordinal its position.
-class TRTTIEnumLiteral : public TRTTILiteral {
+class GELLO_API TRTTIEnumLiteral : public TRTTILiteral {
  public:
   static constexpr StringView KindName = u"EnumLiteral";
   explicit TRTTIEnumLiteral(String Name) : TRTTILiteral(std::move(Name)) {}

@@ -1,11 +1,12 @@
 #pragma once
 // Navigation nodes: calls, property references and the iterate/select family of collections.
 #include "gello/expr/Value.h"
+#include "gello/foundation/Export.h"
 
 namespace gello {
 
 /// A call of a method on the value of classref (nil: a call without explicit receiver).
-class TRTTIMethodCall : public TRTTIValue {
+class GELLO_API TRTTIMethodCall : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"MethodCall";
   explicit TRTTIMethodCall(String Name) : TRTTIValue(std::move(Name)) {}
@@ -33,7 +34,7 @@ class TRTTIMethodCall : public TRTTIValue {
 };
 
 /// A reference to the property of that name on the value of classref.
-class TRTTIPropertyRef : public TRTTIValue {
+class GELLO_API TRTTIPropertyRef : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"PropertyRef";
   explicit TRTTIPropertyRef(String Name) : TRTTIValue(std::move(Name)) {}
@@ -53,7 +54,7 @@ class TRTTIPropertyRef : public TRTTIValue {
 };
 
 /// A collection operation with an iterator variable and, for iterate, an accumulator.
-class TRTTICollectionMethod : public TRTTIValue {
+class GELLO_API TRTTICollectionMethod : public TRTTIValue {
  public:
   static constexpr StringView KindName = u"CollectionMethod";
   explicit TRTTICollectionMethod(String Name) : TRTTIValue(std::move(Name)) {}

@@ -1,11 +1,12 @@
 #pragma once
 // Expression nodes: every node is an element with a value type.
+#include "gello/foundation/Export.h"
 #include "gello/model/Element.h"
 
 namespace gello {
 
 /// A node of a compiled expression; the value type is the type of its result.
-class TRTTIValue : public TRTTIElement, public virtual IRTTIValue {
+class GELLO_API TRTTIValue : public TRTTIElement, public virtual IRTTIValue {
  public:
   static constexpr StringView KindName = u"Value";
   /// The reader's form: named, without a type yet.

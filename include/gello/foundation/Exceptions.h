@@ -2,13 +2,14 @@
 // The exception classes of gello. Messages are the system's own texts, kept exactly.
 #include <exception>
 #include <string>
+#include "gello/foundation/Export.h"
 
 #include "gello/foundation/String.h"
 
 namespace gello {
 
 /// The general exception: a message as String, and as UTF-8 through what().
-class Exception : public std::exception {
+class GELLO_API Exception : public std::exception {
  public:
   explicit Exception(String Message);
   const String& Message() const noexcept { return FMessage; }
@@ -20,12 +21,12 @@ class Exception : public std::exception {
 };
 
 /// A text that does not convert (numbers, booleans, GUIDs, malformed UTF).
-class EConvertError : public Exception {
+class GELLO_API EConvertError : public Exception {
   using Exception::Exception;
 };
 
 /// A broken contract: the fixed text, plus the source unit and line where it was checked.
-class EAssertionFailed : public Exception {
+class GELLO_API EAssertionFailed : public Exception {
  public:
   EAssertionFailed(String Text, std::string Unit, int Line);
   const String& Text() const noexcept { return FText; }
@@ -39,27 +40,27 @@ class EAssertionFailed : public Exception {
 };
 
 /// Failures of the streaming XML reader, and of the writer after it was created.
-class EXMLTextReader : public Exception {
+class GELLO_API EXMLTextReader : public Exception {
   using Exception::Exception;
 };
 
 /// Declared for the writer; its failures are raised as EXMLTextReader.
-class EXMLTextWriter : public Exception {
+class GELLO_API EXMLTextWriter : public Exception {
   using Exception::Exception;
 };
 
 /// Failures of OCL value operations.
-class EOCLException : public Exception {
+class GELLO_API EOCLException : public Exception {
   using Exception::Exception;
 };
 
 /// Integer div or mod by zero.
-class EDivByZero : public Exception {
+class GELLO_API EDivByZero : public Exception {
   using Exception::Exception;
 };
 
 /// Raises EAssertionFailed for Text at File (reduced to its base name) and Line.
-[[noreturn]] void AssertionFailed(const String& Text, const char* File, int Line);
+[[noreturn]] GELLO_API void AssertionFailed(const String& Text, const char* File, int Line);
 
 }  // namespace gello
 

@@ -2,13 +2,14 @@
 // 128-bit identifiers of interfaces and model elements.
 #include <cstddef>
 #include <cstdint>
+#include "gello/foundation/Export.h"
 
 #include "gello/foundation/String.h"
 
 namespace gello {
 
 /// A GUID in its four-field layout; text form "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}".
-struct GUID {
+struct GELLO_API GUID {
   std::uint32_t D1 = 0;
   std::uint16_t D2 = 0;
   std::uint16_t D3 = 0;
@@ -57,13 +58,13 @@ consteval GUID GUIDLiteral(const char (&Text)[39]) {
 }
 
 /// The all-zero GUID; it lies in memory right after the truth tables.
-extern const GUID& nullGUID;
+extern GELLO_API const GUID& nullGUID;
 
 /// True when Guid equals nullGUID.
-bool IsNullGUID(const GUID& Guid);
+GELLO_API bool IsNullGUID(const GUID& Guid);
 
 /// Hash for unordered containers keyed by GUID.
-struct GUIDHash {
+struct GELLO_API GUIDHash {
   std::size_t operator()(const GUID& G) const noexcept;
 };
 

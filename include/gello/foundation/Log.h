@@ -1,6 +1,7 @@
 #pragma once
 // The log sink: two replaceable slots that every diagnostic line of gello goes through.
 #include <vector>
+#include "gello/foundation/Export.h"
 
 #include "gello/foundation/String.h"
 
@@ -10,18 +11,18 @@ using TLogMessageProc = void (*)(const String& Text);
 using TLogMessageStrProc = void (*)(const String& Name, const String& Value);
 
 /// Default sinks: one line each on stderr, in UTF-8 ("Name: Value" for the pair form).
-void CSLogMessage(const String& Text);
-void CSLogMessageStr(const String& Name, const String& Value);
+GELLO_API void CSLogMessage(const String& Text);
+GELLO_API void CSLogMessageStr(const String& Name, const String& Value);
 
 /// The replaceable slots; they start as CSLogMessage and CSLogMessageStr.
-extern TLogMessageProc LogMessage;
-extern TLogMessageStrProc LogMessageStr;
+extern GELLO_API TLogMessageProc LogMessage;
+extern GELLO_API TLogMessageStrProc LogMessageStr;
 
 /// The line a name/value pair makes: Name + ": " + Value.
-String FormatLogPair(const String& Name, const String& Value);
+GELLO_API String FormatLogPair(const String& Name, const String& Value);
 
 /// While alive, collects every logged line instead of printing it (not thread-safe; for tests).
-class TLogCapture {
+class GELLO_API TLogCapture {
  public:
   TLogCapture();
   ~TLogCapture();

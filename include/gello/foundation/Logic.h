@@ -1,6 +1,7 @@
 #pragma once
 // Three-valued booleans and their truth tables; other modules combine them only through the tables.
 #include <cstdint>
+#include "gello/foundation/Export.h"
 
 #include "gello/foundation/GUID.h"
 #include "gello/foundation/String.h"
@@ -32,7 +33,7 @@ enum TOutputStyle : std::uint8_t {
 };
 
 /// The exported tables, one after another, followed by the all-zero GUID.
-struct TTruthTables {
+struct GELLO_API TTruthTables {
   TRTTIExtendedBoolean Or[9];
   TRTTIExtendedBoolean And[9];
   TRTTIExtendedBoolean Xor[9];
@@ -40,18 +41,18 @@ struct TTruthTables {
   TRTTIExtendedBoolean Not[3];
   GUID Null;
 };
-extern const TTruthTables TruthTables;
+extern GELLO_API const TTruthTables TruthTables;
 
 /// Two-operand tables are indexed [Left * 3 + Right]; the not table by the operand.
-extern const TRTTIExtendedBoolean (&truth_table_or)[9];
-extern const TRTTIExtendedBoolean (&truth_table_and)[9];
-extern const TRTTIExtendedBoolean (&truth_table_xor)[9];
-extern const TRTTIExtendedBoolean (&truth_table_implies)[9];
-extern const TRTTIExtendedBoolean (&truth_table_not)[3];
+extern GELLO_API const TRTTIExtendedBoolean (&truth_table_or)[9];
+extern GELLO_API const TRTTIExtendedBoolean (&truth_table_and)[9];
+extern GELLO_API const TRTTIExtendedBoolean (&truth_table_xor)[9];
+extern GELLO_API const TRTTIExtendedBoolean (&truth_table_implies)[9];
+extern GELLO_API const TRTTIExtendedBoolean (&truth_table_not)[3];
 
 /// "false", "true" or "unknown".
-String ExtendedBooleanToString(TRTTIExtendedBoolean Value);
+GELLO_API String ExtendedBooleanToString(TRTTIExtendedBoolean Value);
 /// Case-insensitive "false"/"0", "true"/"1", "unknown"/""; anything else raises EConvertError.
-TRTTIExtendedBoolean StringToExtendedBoolean(StringView Text);
+GELLO_API TRTTIExtendedBoolean StringToExtendedBoolean(StringView Text);
 
 }  // namespace gello

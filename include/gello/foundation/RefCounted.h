@@ -8,13 +8,14 @@
 #include <functional>
 #include <type_traits>
 #include <utility>
+#include "gello/foundation/Export.h"
 
 #include "gello/foundation/CachedCast.h"
 
 namespace gello {
 
 /// Root of every interface; inherit it virtually so an object has exactly one count.
-class RefCounted {
+class GELLO_API RefCounted {
  public:
   void AddRef() const noexcept { FRefCount.fetch_add(1, std::memory_order_relaxed); }
   void Release() const noexcept {

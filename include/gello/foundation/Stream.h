@@ -5,11 +5,12 @@
 #include <iosfwd>
 #include <string>
 #include <utility>
+#include "gello/foundation/Export.h"
 
 namespace gello {
 
 /// A sequential source or target of bytes.
-class TStream {
+class GELLO_API TStream {
  public:
   virtual ~TStream() = default;
   /// Reads up to Count bytes into Buffer; returns how many it read (0 at the end).
@@ -19,7 +20,7 @@ class TStream {
 };
 
 /// Bytes held in memory: reads from the start onwards, writes append.
-class TMemoryStream : public TStream {
+class GELLO_API TMemoryStream : public TStream {
  public:
   TMemoryStream() = default;
   explicit TMemoryStream(std::string Bytes) : FBytes(std::move(Bytes)) {}
@@ -34,7 +35,7 @@ class TMemoryStream : public TStream {
 };
 
 /// Adapts a standard stream: reads from the istream, writes to the ostream (either may be absent).
-class TStdStream : public TStream {
+class GELLO_API TStdStream : public TStream {
  public:
   explicit TStdStream(std::istream& In) : FIn(&In) {}
   explicit TStdStream(std::ostream& Out) : FOut(&Out) {}

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include "gello/foundation/Export.h"
 
 namespace gello {
 
@@ -18,16 +19,16 @@ enum class TMalformed : std::uint8_t {
 };
 
 /// UTF-8 to UTF-16. Overlong forms, surrogate code points and truncated sequences are malformed.
-String FromUTF8(std::string_view Text, TMalformed Mode = TMalformed::Replace);
+GELLO_API String FromUTF8(std::string_view Text, TMalformed Mode = TMalformed::Replace);
 /// UTF-16 to UTF-8. An unpaired surrogate is malformed.
-std::string ToUTF8(StringView Text, TMalformed Mode = TMalformed::Replace);
+GELLO_API std::string ToUTF8(StringView Text, TMalformed Mode = TMalformed::Replace);
 
 /// The fixed single-byte code page (ISO-8859-1): each byte widened to one character.
-String FromLatin1(std::string_view Bytes);
+GELLO_API String FromLatin1(std::string_view Bytes);
 /// Back to the single-byte code page; characters above U+00FF become '?'.
-std::string ToLatin1(StringView Text);
+GELLO_API std::string ToLatin1(StringView Text);
 
 /// Decimal text of an integer.
-String IntToStr(std::int64_t Value);
+GELLO_API String IntToStr(std::int64_t Value);
 
 }  // namespace gello

@@ -4,6 +4,7 @@
 // single-byte code page (ISO-8859-1): each byte libxml2 hands over becomes one character.
 #include <cstdint>
 #include <memory>
+#include "gello/foundation/Export.h"
 
 #include "gello/foundation/GUID.h"
 #include "gello/foundation/RefCounted.h"
@@ -37,7 +38,7 @@ enum class TxmlReaderTypes : std::int32_t {
 };
 
 /// A forward-only XML reader. Name and value stay valid until the next Read or attribute move.
-struct IXMLTextReader : virtual RefCounted {
+struct GELLO_API IXMLTextReader : virtual RefCounted {
   static constexpr GUID IID = GUIDLiteral("{6B0E3C52-9D41-4F7A-8E21-3A5C7D90B1E4}");
 
   /// Moves to the next node; false at the end of input. Raises EXMLTextReader on malformed XML.
@@ -55,7 +56,7 @@ struct IXMLTextReader : virtual RefCounted {
 };
 
 /// IXMLTextReader over a file, a borrowed stream or a string.
-class TXMLTextReader : public virtual IXMLTextReader {
+class GELLO_API TXMLTextReader : public virtual IXMLTextReader {
  public:
   /// Raises "unable to open " + FileName when libxml2 cannot open it.
   static Ref<TXMLTextReader> Create(const String& FileName);

@@ -1,6 +1,7 @@
 #pragma once
 // Push-writing of XML on libxml2's text writer. Text goes to libxml2 in the single-byte code page
 // (ISO-8859-1), and a string target gets each output byte back as one character.
+#include "gello/foundation/Export.h"
 #include "gello/foundation/GUID.h"
 #include "gello/foundation/RefCounted.h"
 #include "gello/foundation/Stream.h"
@@ -12,7 +13,7 @@ namespace gello {
 
 /// A forward-only XML writer; the document is started when it is created. Every failure after
 /// creation raises EXMLTextReader, so one handler covers reading and writing.
-struct IXMLTextWriter : virtual RefCounted {
+struct GELLO_API IXMLTextWriter : virtual RefCounted {
   static constexpr GUID IID = GUIDLiteral("{C3A87F10-25B4-4E6D-9B0C-71D4E8F25A63}");
 
   virtual void StartElement(const String& Name) = 0;
@@ -28,7 +29,7 @@ struct IXMLTextWriter : virtual RefCounted {
 
 /// IXMLTextWriter to a file, a borrowed stream or a caller's string. Indent lays elements out
 /// on lines of their own.
-class TXMLTextWriter : public virtual IXMLTextWriter {
+class GELLO_API TXMLTextWriter : public virtual IXMLTextWriter {
  public:
   /// Raises "unable to open " + FileName when libxml2 cannot create it.
   static Ref<TXMLTextWriter> Create(const String& FileName, bool Indent);

@@ -1,11 +1,12 @@
 #pragma once
 // Instances of the collection kinds: an ordered list of element instances.
+#include "gello/foundation/Export.h"
 #include "gello/instance/Instance.h"
 
 namespace gello {
 
 /// A Bag, Sequence or Set instance; its elements live in the value slots. It has no text value.
-class TRTTICollectionInstance : public TRTTIClassInstance {
+class GELLO_API TRTTICollectionInstance : public TRTTIClassInstance {
  public:
   /// An empty collection.
   explicit TRTTICollectionInstance(const Ref<IRTTIClass>& Class);

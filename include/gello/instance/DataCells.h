@@ -1,13 +1,14 @@
 #pragma once
 // Instances of the primitive kinds: each holds one value and renders it as text, token and JSON.
 #include <cstdint>
+#include "gello/foundation/Export.h"
 #include "gello/foundation/Extended.h"
 #include "gello/instance/Instance.h"
 
 namespace gello {
 
 /// A String cell; its token is the text in single quotes, embedded quotes doubled.
-class TRTTIStringData : public TRTTIClassInstance {
+class GELLO_API TRTTIStringData : public TRTTIClassInstance {
  public:
   using TRTTIClassInstance::TRTTIClassInstance;
   String GetasString() const override { return FValue; }
@@ -24,7 +25,7 @@ class TRTTIStringData : public TRTTIClassInstance {
 };
 
 /// An Integer cell (64-bit).
-class TRTTIIntegerData : public TRTTIClassInstance {
+class GELLO_API TRTTIIntegerData : public TRTTIClassInstance {
  public:
   using TRTTIClassInstance::TRTTIClassInstance;
   String GetasString() const override { return IntToStr(FValue); }
@@ -41,7 +42,7 @@ class TRTTIIntegerData : public TRTTIClassInstance {
 };
 
 /// A Real cell (80-bit); "NAN", "INF" and "-INF" are read and written.
-class TRTTIRealData : public TRTTIClassInstance {
+class GELLO_API TRTTIRealData : public TRTTIClassInstance {
  public:
   using TRTTIClassInstance::TRTTIClassInstance;
   String GetasString() const override;
@@ -57,7 +58,7 @@ class TRTTIRealData : public TRTTIClassInstance {
 };
 
 /// A three-valued Boolean cell.
-class TRTTIBooleanData : public TRTTIClassInstance {
+class GELLO_API TRTTIBooleanData : public TRTTIClassInstance {
  public:
   using TRTTIClassInstance::TRTTIClassInstance;
   String GetasString() const override { return ExtendedBooleanToString(FValue); }

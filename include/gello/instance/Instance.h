@@ -1,13 +1,14 @@
 #pragma once
 // Dynamic instances of model classes: property values kept by property index.
 #include <vector>
+#include "gello/foundation/Export.h"
 #include "gello/model/ClassInstance.h"
 
 namespace gello {
 
 /// An instance whose shape is its model class; it keeps one value slot per property index
 /// and a stored text.
-class TRTTIClassInstance : public virtual IRTTIClassInstance {
+class GELLO_API TRTTIClassInstance : public virtual IRTTIClassInstance {
  public:
   /// Sizes the value slots to the class's property count.
   explicit TRTTIClassInstance(const Ref<IRTTIClass>& Class);

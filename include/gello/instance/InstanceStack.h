@@ -2,12 +2,13 @@
 // A stack of instances, used while reading nested instance documents.
 #include <cstddef>
 #include <vector>
+#include "gello/foundation/Export.h"
 #include "gello/model/ClassInstance.h"
 
 namespace gello {
 
 /// Last in, first out; the array grows by 16 slots whenever it is full.
-class TRTTIInstanceStack {
+class GELLO_API TRTTIInstanceStack {
  public:
   void push(const Ref<IRTTIClassInstance>& Instance);
   /// The last pushed instance; raises on an empty stack.

@@ -2,6 +2,7 @@
 // Loading the XML documents that model files are: any declared encoding, parsed as UTF-8.
 #include <pugixml.hpp>
 #include <string_view>
+#include "gello/foundation/Export.h"
 
 #include "gello/foundation/String.h"
 
@@ -9,8 +10,8 @@ namespace gello {
 
 /// Parses Bytes into Document; a declared encoding other than UTF-8 or UTF-16 is converted to
 /// UTF-8 first. A document that is not well-formed raises with the parser's own message.
-void ParseXMLDocument(pugi::xml_document& Document, std::string_view Bytes);
+GELLO_API void ParseXMLDocument(pugi::xml_document& Document, std::string_view Bytes);
 /// ParseXMLDocument over the file's bytes; a file that cannot be read raises.
-void LoadXMLDocument(pugi::xml_document& Document, const String& FileName);
+GELLO_API void LoadXMLDocument(pugi::xml_document& Document, const String& FileName);
 
 }  // namespace gello

@@ -1,13 +1,14 @@
 #pragma once
 // Model types: ancestors, element types, conformance, overload choice and property numbering.
 #include <cstdint>
+#include "gello/foundation/Export.h"
 
 #include "gello/model/Scope.h"
 
 namespace gello {
 
 /// A model class; it owns its members (properties, methods, nested elements).
-class TRTTIClass : public TRTTIScope, public virtual IRTTIClass {
+class GELLO_API TRTTIClass : public TRTTIScope, public virtual IRTTIClass {
  public:
   static constexpr StringView KindName = u"Class";
   explicit TRTTIClass(String Name, const Ref<IRTTIClass>& Ancestor = nullptr,
@@ -84,6 +85,6 @@ class TRTTIClass : public TRTTIScope, public virtual IRTTIClass {
 };
 
 /// A placeholder class that carries only a name, until resolution finds the real one.
-Ref<IRTTIClass> BuildClassRef(const String& Name);
+GELLO_API Ref<IRTTIClass> BuildClassRef(const String& Name);
 
 }  // namespace gello

@@ -1,11 +1,12 @@
 #pragma once
 // A second name for a class: every class query goes to the class it stands for.
+#include "gello/foundation/Export.h"
 #include "gello/model/Scope.h"
 
 namespace gello {
 
 /// Forwards the class queries to its actual class and ignores the class setters.
-class TRTTIClassAlias : public TRTTIScope, public virtual IRTTIClass {
+class GELLO_API TRTTIClassAlias : public TRTTIScope, public virtual IRTTIClass {
  public:
   static constexpr StringView KindName = u"ClassAlias";
   explicit TRTTIClassAlias(String Name);

@@ -1,5 +1,6 @@
 #pragma once
 // The interface of every dynamic instance and every OCL value: typed, with properties and text.
+#include "gello/foundation/Export.h"
 #include "gello/foundation/JSON.h"
 #include "gello/model/Interfaces.h"
 
@@ -7,7 +8,7 @@ namespace gello {
 
 /// An instance of a model class: its type, its property values by name or position, its text
 /// and JSON forms. Operations are declared in slot order.
-struct IRTTIClassInstance : virtual RefCounted {
+struct GELLO_API IRTTIClassInstance : virtual RefCounted {
   static constexpr GUID IID = IID_IRTTIClassInstance;
   virtual Ref<IRTTIClassInstance> CreateProperty(const String& Name) = 0;
   virtual Ref<IRTTIClassInstance> ClassFactory(const String& ClassName) = 0;
@@ -33,8 +34,8 @@ struct IRTTIClassInstance : virtual RefCounted {
 /// Makes a stand-alone class named ClassName and an instance of it.
 using TClassInstanceMaker = Ref<IRTTIClassInstance> (*)(const String& ClassName);
 /// Installed by the dynamic-instance classes when the library loads.
-void SetClassInstanceMaker(TClassInstanceMaker Maker) noexcept;
+GELLO_API void SetClassInstanceMaker(TClassInstanceMaker Maker) noexcept;
 /// A new stand-alone class named ClassName (no package, no ancestor) and an instance of it.
-Ref<IRTTIClassInstance> NewClassInstance(const String& ClassName);
+GELLO_API Ref<IRTTIClassInstance> NewClassInstance(const String& ClassName);
 
 }  // namespace gello

@@ -2,13 +2,14 @@
 // The element base class: identity, write-once naming, identifiers and default type answers.
 #include <cstdint>
 #include <memory>
+#include "gello/foundation/Export.h"
 
 #include "gello/model/Interfaces.h"
 
 namespace gello {
 
 /// Base of every model element; subclasses refine the type questions and Resolve.
-class TRTTIElement : public virtual IRTTIElement {
+class GELLO_API TRTTIElement : public virtual IRTTIElement {
  public:
   static constexpr StringView KindName = u"Element";
   explicit TRTTIElement(String Name = {});
@@ -54,9 +55,9 @@ class TRTTIElement : public virtual IRTTIElement {
 };
 
 /// Changes whenever an element gets a GUID or a UML id is set, so caches of ids know to refresh.
-std::uint64_t UMLIdEpoch();
+GELLO_API std::uint64_t UMLIdEpoch();
 
 /// The class that Class's name denotes as seen from Scope; Class itself when Scope knows none.
-Ref<IRTTIClass> ResolveClass(const Ref<IRTTIClass>& Class, IRTTIScope* Scope);
+GELLO_API Ref<IRTTIClass> ResolveClass(const Ref<IRTTIClass>& Class, IRTTIScope* Scope);
 
 }  // namespace gello

@@ -4,13 +4,14 @@
 #include <initializer_list>
 #include <memory>
 #include <vector>
+#include "gello/foundation/Export.h"
 
 #include "gello/model/Interfaces.h"
 
 namespace gello {
 
 /// Elements in insertion order, with a case-sensitive name index where the last added name wins.
-class TRTTIElementList : public virtual IRTTIElementList {
+class GELLO_API TRTTIElementList : public virtual IRTTIElementList {
  public:
   TRTTIElementList();
   ~TRTTIElementList() override;

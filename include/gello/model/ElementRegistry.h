@@ -2,6 +2,7 @@
 // The element-class registry: readers create elements by kind word (a class name without "TRTTI").
 #include <initializer_list>
 #include <vector>
+#include "gello/foundation/Export.h"
 
 #include "gello/model/Interfaces.h"
 
@@ -11,7 +12,7 @@ namespace gello {
 using TElementFactory = Ref<IRTTIElement> (*)(String Name);
 
 /// A registered element class: its kind word and its factory.
-struct TRTTIElementClass {
+struct GELLO_API TRTTIElementClass {
   String Kind;
   TElementFactory Create;
 };
@@ -24,15 +25,15 @@ TRTTIElementClass RTTIClassOf() {
 }
 
 /// Registers element classes by kind; a kind registered again takes the newer class.
-void RegisterRTTI(std::initializer_list<TRTTIElementClass> Classes);
+GELLO_API void RegisterRTTI(std::initializer_list<TRTTIElementClass> Classes);
 
 /// The registered kind words, sorted.
-std::vector<String> RegisteredKinds();
+GELLO_API std::vector<String> RegisteredKinds();
 
 /// A new element of that kind and name; empty for an empty kind; raises for an unknown kind.
-Ref<IRTTIElement> CreateForReader(StringView Kind, String Name);
+GELLO_API Ref<IRTTIElement> CreateForReader(StringView Kind, String Name);
 
 /// The factory registered for a kind word; raises, as creating would, when none is.
-TElementFactory ElementFactoryFor(StringView Kind);
+GELLO_API TElementFactory ElementFactoryFor(StringView Kind);
 
 }  // namespace gello

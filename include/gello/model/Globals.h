@@ -1,11 +1,12 @@
 #pragma once
 // The global scope: the packages, System first, with the built-in OCL types.
+#include "gello/foundation/Export.h"
 #include "gello/model/Package.h"
 
 namespace gello {
 
 /// The root of every model; it builds the System package and makes classes on demand.
-class TRTTIGlobals : public TRTTIPackage, public virtual IRTTIGlobals {
+class GELLO_API TRTTIGlobals : public TRTTIPackage, public virtual IRTTIGlobals {
  public:
   static constexpr StringView KindName = u"Globals";
   TRTTIGlobals();

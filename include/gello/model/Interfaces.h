@@ -1,6 +1,7 @@
 #pragma once
 // The interfaces through which every holder sees model elements.
 #include <cstdint>
+#include "gello/foundation/Export.h"
 
 #include "gello/foundation/GUID.h"
 #include "gello/foundation/Logic.h"
@@ -29,7 +30,7 @@ inline constexpr GUID IID_IRTTIClassInstance =
     GUIDLiteral("{9E4FBA43-A6C7-42A8-A021-E6577B3A8EF3}");
 
 /// Source position of an element.
-struct IRTTIDebugInfo : virtual RefCounted {
+struct GELLO_API IRTTIDebugInfo : virtual RefCounted {
   static constexpr GUID IID = GUIDLiteral("{04803E8D-FDEC-492C-A692-B8DC31D807D1}");
   virtual String GetSourceFile() const = 0;
   virtual void SetSourceFile(const String& Value) = 0;
@@ -38,7 +39,7 @@ struct IRTTIDebugInfo : virtual RefCounted {
 };
 
 /// Every thing in a model: identity, naming, resolution and the default type answers.
-struct IRTTIElement : virtual RefCounted {
+struct GELLO_API IRTTIElement : virtual RefCounted {
   static constexpr GUID IID = GUIDLiteral("{0E8BD1BB-A38F-460C-BA75-678A75567A22}");
   virtual const String& GetName() const = 0;
   virtual void SetName(const String& Value) = 0;
@@ -68,7 +69,7 @@ struct IRTTIElement : virtual RefCounted {
 };
 
 /// An ordered list of elements with a case-sensitive name index.
-struct IRTTIElementList : virtual RefCounted {
+struct GELLO_API IRTTIElementList : virtual RefCounted {
   static constexpr GUID IID = GUIDLiteral("{D7B341A9-15E0-4A0C-AB4A-752C87C9B8B8}");
   virtual int Add(const Ref<IRTTIElement>& Element) = 0;
   virtual void Insert(int Index, const Ref<IRTTIElement>& Element) = 0;
@@ -96,7 +97,7 @@ struct IRTTIElementList : virtual RefCounted {
 };
 
 /// An element with members: searched by name and by the interface the result must support.
-struct IRTTIScope : virtual IRTTIElement {
+struct GELLO_API IRTTIScope : virtual IRTTIElement {
   static constexpr GUID IID = GUIDLiteral("{C0044D10-C756-482A-863F-667E60C36B03}");
   virtual Ref<IRTTIElementList> GetMembers() const = 0;
   virtual void SetMembers(const Ref<IRTTIElementList>& Value) = 0;
@@ -125,7 +126,7 @@ struct IRTTIScope : virtual IRTTIElement {
 };
 
 /// A model type: class, primitive, enumeration, tuple or collection.
-struct IRTTIClass : virtual IRTTIScope {
+struct GELLO_API IRTTIClass : virtual IRTTIScope {
   static constexpr GUID IID = GUIDLiteral("{29E67034-006C-4610-B112-9C4F62EEEC9D}");
   virtual int AllocatePropertyIndex() = 0;
   virtual Ref<IRTTIMethod> FindMethod(const String& Name, IRTTIElementList* Args) = 0;
@@ -159,7 +160,7 @@ struct IRTTIClass : virtual IRTTIScope {
 };
 
 /// A property of a class, or a parameter of a method.
-struct IRTTIProperty : virtual IRTTIElement {
+struct GELLO_API IRTTIProperty : virtual IRTTIElement {
   static constexpr GUID IID = GUIDLiteral("{B2FAF0E9-2D10-42CD-A05A-21F3E5A644E3}");
   virtual std::int32_t GetGetterVMTIndex() const = 0;
   virtual std::int32_t GetPropertyIndex() const = 0;
@@ -178,7 +179,7 @@ struct IRTTIProperty : virtual IRTTIElement {
 };
 
 /// A method of a class; its parameters are properties.
-struct IRTTIMethod : virtual IRTTIElement {
+struct GELLO_API IRTTIMethod : virtual IRTTIElement {
   static constexpr GUID IID = GUIDLiteral("{F2A2222E-B4CC-4781-B445-73EB354E0A3F}");
   virtual bool GetCollectionOp() const = 0;
   virtual Ref<IRTTIElementList> GetParams() const = 0;
@@ -193,21 +194,21 @@ struct IRTTIMethod : virtual IRTTIElement {
 };
 
 /// A node of a compiled expression: an element with a value type.
-struct IRTTIValue : virtual IRTTIElement {
+struct GELLO_API IRTTIValue : virtual IRTTIElement {
   static constexpr GUID IID = GUIDLiteral("{DA11888B-C93D-4897-9DF9-DDE48E16B459}");
   virtual Ref<IRTTIClass> GetValueType() const = 0;
   virtual void SetValueType(const Ref<IRTTIClass>& Value) = 0;
 };
 
 /// A constant value with a text form.
-struct IRTTILiteral : virtual IRTTIValue {
+struct GELLO_API IRTTILiteral : virtual IRTTIValue {
   static constexpr GUID IID = GUIDLiteral("{7F092E4E-2D29-4543-B23B-1326BF5BE2BE}");
   virtual String GetasString() const = 0;
   virtual void SetasString(const String& Value) = 0;
 };
 
 /// The unit in which a model is loaded, resolved and saved.
-struct IRTTIPackage : virtual IRTTIScope {
+struct GELLO_API IRTTIPackage : virtual IRTTIScope {
   static constexpr GUID IID = GUIDLiteral("{262219F1-70F0-4F96-AFB6-C8528F1AE783}");
   virtual Ref<IRTTIElementList> GetImports() const = 0;
   virtual void SetImports(const Ref<IRTTIElementList>& Value) = 0;
@@ -221,13 +222,13 @@ struct IRTTIPackage : virtual IRTTIScope {
 };
 
 /// The scope that holds loaded packages.
-struct IRTTIPackageList : virtual IRTTIScope {
+struct GELLO_API IRTTIPackageList : virtual IRTTIScope {
   static constexpr GUID IID = GUIDLiteral("{C6778CA1-073B-4B19-AFB0-4A0083C38E19}");
   virtual Ref<IRTTIPackage> FindPackage(const String& Name) = 0;
 };
 
 /// The root of every model: the packages, System first, and the built-in types.
-struct IRTTIGlobals : virtual IRTTIPackage {
+struct GELLO_API IRTTIGlobals : virtual IRTTIPackage {
   static constexpr GUID IID = GUIDLiteral("{F465329E-A9A2-4B56-BE9E-D361B12E5A98}");
   virtual Ref<IRTTIClass> Get_Any() const = 0;
   virtual Ref<IRTTIClass> Get_Bag() const = 0;

@@ -1,11 +1,12 @@
 #pragma once
 // Methods of classes: parameters, result type and body.
+#include "gello/foundation/Export.h"
 #include "gello/model/Element.h"
 
 namespace gello {
 
 /// A method whose parameters are properties; it conforms as its result type does.
-class TRTTIMethod : public TRTTIElement, public virtual IRTTIMethod {
+class GELLO_API TRTTIMethod : public TRTTIElement, public virtual IRTTIMethod {
  public:
   static constexpr StringView KindName = u"Method";
   /// The reader's form: result type and parameters come later.

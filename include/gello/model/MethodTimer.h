@@ -1,6 +1,7 @@
 #pragma once
 // A scoped timer for long model operations, reported through the log.
 #include <chrono>
+#include "gello/foundation/Export.h"
 
 #include "gello/foundation/RefCounted.h"
 #include "gello/foundation/String.h"
@@ -8,7 +9,7 @@
 namespace gello {
 
 /// Logs when it starts, and the seconds taken when its last reference goes.
-class TMethodTimer : public RefCounted {
+class GELLO_API TMethodTimer : public RefCounted {
  public:
   explicit TMethodTimer(const String& Message);
   ~TMethodTimer() override;
@@ -19,6 +20,6 @@ class TMethodTimer : public RefCounted {
 };
 
 /// Starts timing Message; the timing ends when the result is released.
-Ref<TMethodTimer> MethodTimer(const String& Message);
+GELLO_API Ref<TMethodTimer> MethodTimer(const String& Message);
 
 }  // namespace gello

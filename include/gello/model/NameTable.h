@@ -2,6 +2,7 @@
 // A compact hash table of named elements, keyed by the elements' own (write-once) names.
 #include <cstddef>
 #include <vector>
+#include "gello/foundation/Export.h"
 
 #include "gello/model/Interfaces.h"
 
@@ -9,7 +10,7 @@ namespace gello {
 
 /// Name to one element, by open addressing: a lookup probes one short run of 16-byte slots and
 /// then reads the name of the element it finds. Holds no references; empty names are not kept.
-class TNameTable {
+class GELLO_API TNameTable {
  public:
   /// The element named Name, or null.
   IRTTIElement* Find(const String& Name) const;

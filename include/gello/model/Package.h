@@ -1,13 +1,14 @@
 #pragma once
 // Packages: the unit in which a model is loaded, resolved and saved.
 #include <atomic>
+#include "gello/foundation/Export.h"
 
 #include "gello/model/Scope.h"
 
 namespace gello {
 
 /// A scope of classes, aliases and nested packages, with imports, a main block and a use count.
-class TRTTIPackage : public TRTTIScope, public virtual IRTTIPackage {
+class GELLO_API TRTTIPackage : public TRTTIScope, public virtual IRTTIPackage {
  public:
   static constexpr StringView KindName = u"Package";
   explicit TRTTIPackage(String Name);

@@ -1,11 +1,12 @@
 #pragma once
 // The scope that holds the loaded packages.
+#include "gello/foundation/Export.h"
 #include "gello/model/Scope.h"
 
 namespace gello {
 
 /// An unnamed scope of packages; it does not own them.
-class TRTTIPackageList : public TRTTIScope, public virtual IRTTIPackageList {
+class GELLO_API TRTTIPackageList : public TRTTIScope, public virtual IRTTIPackageList {
  public:
   static constexpr StringView KindName = u"PackageList";
   explicit TRTTIPackageList(const String& Name = {}) : TRTTIScope(Name) {}

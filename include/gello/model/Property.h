@@ -1,11 +1,12 @@
 #pragma once
 // Properties of classes and parameters of methods.
+#include "gello/foundation/Export.h"
 #include "gello/model/Element.h"
 
 namespace gello {
 
 /// A typed property with its slot index and the positions of its host getter and setter.
-class TRTTIProperty : public TRTTIElement, public virtual IRTTIProperty {
+class GELLO_API TRTTIProperty : public TRTTIElement, public virtual IRTTIProperty {
  public:
   static constexpr StringView KindName = u"Property";
   /// The reader's form: the type comes later.

@@ -1,12 +1,13 @@
 #pragma once
 // The element with members: packages, classes and the global scope.
+#include "gello/foundation/Export.h"
 #include "gello/model/Element.h"
 
 namespace gello {
 
 /// Members kept in a name-indexed list, searched by name and by the interface a result must
 /// support.
-class TRTTIScope : public TRTTIElement, public virtual IRTTIScope {
+class GELLO_API TRTTIScope : public TRTTIElement, public virtual IRTTIScope {
  public:
   static constexpr StringView KindName = u"Scope";
   explicit TRTTIScope(String Name = {}, bool OwnsMembers = false);

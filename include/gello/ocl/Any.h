@@ -1,19 +1,20 @@
 #pragma once
 // TOCLAny, the root of every OCL value class.
 #include <memory>
+#include "gello/foundation/Export.h"
 #include "gello/ocl/Interfaces.h"
 #include "gello/ocl/InternalOCLException.h"
 
 namespace gello {
 
 /// The reason given to a constructor that makes an undefined value.
-struct TUndefined {
+struct GELLO_API TUndefined {
   String Message;
 };
 
 /// The root value: identity equality, the ocl* operations and the undefined state (a value
 /// whose chain of reasons is not empty is undefined).
-class TOCLAny : public virtual IOCLAny {
+class GELLO_API TOCLAny : public virtual IOCLAny {
  public:
   /// An ordinary defined value.
   TOCLAny() = default;

@@ -1,11 +1,12 @@
 #pragma once
 // Bags: duplicates allowed, kept in insertion order.
+#include "gello/foundation/Export.h"
 #include "gello/ocl/Collection.h"
 
 namespace gello {
 
 /// A collection with duplicates; every operation answers a new Bag. Bags cannot be compared.
-class TOCLBag : public TOCLCollection, public virtual IOCLBag {
+class GELLO_API TOCLBag : public TOCLCollection, public virtual IOCLBag {
  public:
   /// A Bag of model class AClass (System Bag(T) when nil).
   explicit TOCLBag(const Ref<IRTTIClass>& AClass = nullptr, bool InMemory = true);

@@ -1,12 +1,13 @@
 #pragma once
 // Three-valued Booleans. Results are always one of four shared objects: false, true, unknown
 // and an undefined Boolean; no Boolean operation allocates.
+#include "gello/foundation/Export.h"
 #include "gello/ocl/Any.h"
 
 namespace gello {
 
 /// An abstract Boolean: it reads its state through the extended-boolean accessors.
-class TOCLBoolean : public TOCLAny, public virtual IOCLBoolean {
+class GELLO_API TOCLBoolean : public TOCLAny, public virtual IOCLBoolean {
  public:
   using TOCLAny::_EQ_;
   using TOCLAny::_NE_;
@@ -45,7 +46,7 @@ class TOCLBoolean : public TOCLAny, public virtual IOCLBoolean {
 };
 
 /// A Boolean that holds its value.
-class TOCLBooleanValue : public TOCLBoolean {
+class GELLO_API TOCLBooleanValue : public TOCLBoolean {
  public:
   explicit TOCLBooleanValue(TRTTIExtendedBoolean Value) : FasExtendedBoolean(Value) {}
   explicit TOCLBooleanValue(bool Value) : FasExtendedBoolean(Value ? rtti_true : rtti_false) {}

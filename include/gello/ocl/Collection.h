@@ -2,6 +2,7 @@
 // The common base of Sequence, Set and Bag: elements held in memory, or drawn from external data
 // through a fast iterator that a subclass supplies.
 #include <functional>
+#include "gello/foundation/Export.h"
 #include "gello/ocl/Elements.h"
 #include "gello/ocl/MemInstance.h"
 
@@ -9,7 +10,7 @@ namespace gello {
 
 /// Membership, counting, sorting and element access, written against the fast iterator so
 /// that they serve held and external elements alike; held elements are indexed by value.
-class TOCLCollection : public TOCLMemInstance, public virtual IOCLCollection {
+class GELLO_API TOCLCollection : public TOCLMemInstance, public virtual IOCLCollection {
  public:
   /// A collection of model class AClass; InMemory false means a subclass supplies the data.
   explicit TOCLCollection(const Ref<IRTTIClass>& AClass = nullptr, bool InMemory = true)
@@ -81,6 +82,7 @@ class TOCLCollection : public TOCLMemInstance, public virtual IOCLCollection {
 };
 
 /// Calls Visit with every element of c in order until it answers true (a nil c has none).
-bool AnyElementOf(IOCLCollection* c, const std::function<bool(const Ref<IOCLAny>&)>& Visit);
+GELLO_API bool AnyElementOf(IOCLCollection* c,
+                            const std::function<bool(const Ref<IOCLAny>&)>& Visit);
 
 }  // namespace gello

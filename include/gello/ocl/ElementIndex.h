@@ -6,6 +6,7 @@
 #include <memory>
 #include <span>
 #include <vector>
+#include "gello/foundation/Export.h"
 #include "gello/ocl/Interfaces.h"
 
 namespace gello {
@@ -13,7 +14,7 @@ namespace gello {
 /// Numbers, texts, Booleans and types of the library's own value classes are hashed by value;
 /// elements of other classes (whose equality may be anything) are kept apart and always scanned.
 /// The table never grows: readers of shorter versions may probe it while one writer inserts.
-class TElementIndex {
+class GELLO_API TElementIndex {
  public:
   /// The elements of one version; entries for positions past its end belong to later versions.
   using TItems = std::span<const Ref<IOCLAny>>;

@@ -1,6 +1,7 @@
 #pragma once
 // The held elements of a collection, as versions of a store that successive appends share.
 #include <functional>
+#include "gello/foundation/Export.h"
 #include "gello/ocl/ElementIndex.h"
 
 namespace gello {
@@ -10,7 +11,7 @@ class TElementStore;
 /// One version of a collection's elements: a length of a store shared with the versions it was
 /// copied from. A copy costs nothing; the version that appended last appends in place, any other
 /// moves to a store of its own first, so no version ever sees another's change.
-class TElements {
+class GELLO_API TElements {
  public:
   using TLess = std::function<bool(const Ref<IOCLAny>&, const Ref<IOCLAny>&)>;
 

@@ -1,6 +1,7 @@
 #pragma once
 // Integers: 64-bit two's-complement arithmetic (wrapping) on values kept as extended floats.
 #include <cstdint>
+#include "gello/foundation/Export.h"
 #include "gello/ocl/Real.h"
 
 namespace gello {
@@ -9,7 +10,7 @@ namespace gello {
 struct TFromFloat {};
 
 /// An Integer value; it is a Real too, and the Real operations run on its stored float.
-class TOCLInteger : public TOCLReal, public virtual IOCLInteger {
+class GELLO_API TOCLInteger : public TOCLReal, public virtual IOCLInteger {
  public:
   explicit TOCLInteger(std::int64_t Value = 0) : TOCLReal(static_cast<Extended>(Value)) {}
   TOCLInteger(TFromFloat, Extended Value) : TOCLReal(Value) {}

@@ -2,6 +2,7 @@
 // The OCL value interfaces. Each declares its own operations in slot order: the class registry
 // describes them by that order, so it must not change.
 #include <cstdint>
+#include "gello/foundation/Export.h"
 #include "gello/foundation/Extended.h"
 #include "gello/model/ClassInstance.h"
 
@@ -22,7 +23,7 @@ struct IFastIterator;
 struct IGelloVM;
 
 /// Every OCL value: identity, equality, the ocl* type operations and the undefined state.
-struct IOCLAny : virtual IRTTIClassInstance {
+struct GELLO_API IOCLAny : virtual IRTTIClassInstance {
   static constexpr GUID IID = GUIDLiteral("{B5E1C99E-08A7-4812-9229-EC4170B75A10}");
   virtual Ref<IOCLSet> allInstances() const = 0;
   virtual String Display() const = 0;
@@ -41,14 +42,14 @@ struct IOCLAny : virtual IRTTIClassInstance {
 };
 
 /// A model type used as a value.
-struct IOCLT : virtual IOCLAny {
+struct GELLO_API IOCLT : virtual IOCLAny {
   static constexpr GUID IID = GUIDLiteral("{17C083D6-326B-4D40-84B5-F5F6F7C6D685}");
   virtual Ref<IRTTIClass> GetOCLClassType() const = 0;
   virtual void SetOCLClassType(const Ref<IRTTIClass>& Value) = 0;
 };
 
 /// A text value.
-struct IOCLString : virtual IOCLAny {
+struct GELLO_API IOCLString : virtual IOCLAny {
   static constexpr GUID IID = GUIDLiteral("{A668974E-1CF9-4049-B99A-F0D64C532425}");
   using IOCLAny::_EQ_;
   using IOCLAny::_NE_;
@@ -71,7 +72,7 @@ struct IOCLString : virtual IOCLAny {
 };
 
 /// A three-valued Boolean; every Boolean result is one of the four shared objects.
-struct IOCLBoolean : virtual IOCLAny {
+struct GELLO_API IOCLBoolean : virtual IOCLAny {
   static constexpr GUID IID = GUIDLiteral("{263CF0CD-7B93-4516-AF0D-281CF98DE623}");
   using IOCLAny::_EQ_;
   using IOCLAny::_NE_;
@@ -90,7 +91,7 @@ struct IOCLBoolean : virtual IOCLAny {
 };
 
 /// An 80-bit real number.
-struct IOCLReal : virtual IOCLAny {
+struct GELLO_API IOCLReal : virtual IOCLAny {
   static constexpr GUID IID = GUIDLiteral("{2C40B6D1-3FDE-480F-AD7B-DE1758E006FC}");
   using IOCLAny::_EQ_;
   using IOCLAny::_NE_;
@@ -122,7 +123,7 @@ struct IOCLReal : virtual IOCLAny {
 /// A whole number; usable wherever a Real is.
 /// Slots 1 `abs`, 6 `toChar` and 11 `_NEGATE_` take no argument, so C++ cannot declare them
 /// again with an Integer result: they are the Real ones, which on an Integer answer an Integer.
-struct IOCLInteger : virtual IOCLReal {
+struct GELLO_API IOCLInteger : virtual IOCLReal {
   static constexpr GUID IID = GUIDLiteral("{7BA8AA21-21C8-44A8-B1FA-E708342353CD}");
   using IOCLReal::_ADD_;
   using IOCLReal::_MULTIPLY_;
@@ -141,7 +142,7 @@ struct IOCLInteger : virtual IOCLReal {
 };
 
 /// The common operations of Sequence, Set and Bag.
-struct IOCLCollection : virtual IOCLAny {
+struct GELLO_API IOCLCollection : virtual IOCLAny {
   static constexpr GUID IID = GUIDLiteral("{B0A38DD6-FFC9-47DD-A621-86B2810AA01F}");
   using IOCLAny::_EQ_;
   using IOCLAny::_NE_;
@@ -175,12 +176,12 @@ struct IOCLCollection : virtual IOCLAny {
 };
 
 /// A value with named fields; they are reached through the instance property operations.
-struct IOCLTuple : virtual IOCLAny {
+struct GELLO_API IOCLTuple : virtual IOCLAny {
   static constexpr GUID IID = GUIDLiteral("{02CE128E-DD30-4993-873F-3415D36AAB7F}");
 };
 
 /// An ordered collection.
-struct IOCLSequence : virtual IOCLCollection {
+struct GELLO_API IOCLSequence : virtual IOCLCollection {
   static constexpr GUID IID = GUIDLiteral("{B4C3D057-B29D-44FD-AE3F-CF325F253C2A}");
   virtual Ref<IOCLSequence> append(IOCLAny* o) const = 0;
   virtual Ref<IOCLSequence> prepend(IOCLAny* o) const = 0;
@@ -203,7 +204,7 @@ struct IOCLSequence : virtual IOCLCollection {
 };
 
 /// A collection without duplicates.
-struct IOCLSet : virtual IOCLCollection {
+struct GELLO_API IOCLSet : virtual IOCLCollection {
   static constexpr GUID IID = GUIDLiteral("{78E7E08A-2156-448F-AA3F-1372AED0585B}");
   virtual Ref<IOCLSet> _COLLECTOP_select(IOCLBoolean* e) const = 0;
   virtual Ref<IOCLSet> _COLLECTOP_reject(IOCLBoolean* e) const = 0;
@@ -221,7 +222,7 @@ struct IOCLSet : virtual IOCLCollection {
 };
 
 /// A collection with duplicates and no order.
-struct IOCLBag : virtual IOCLCollection {
+struct GELLO_API IOCLBag : virtual IOCLCollection {
   static constexpr GUID IID = GUIDLiteral("{C9ACF637-AE06-4CD8-8F7B-D70A8DEE6294}");
   virtual Ref<IOCLBag> excluding(IOCLAny* e) const = 0;
   virtual Ref<IOCLBag> flatten() const = 0;
@@ -237,7 +238,7 @@ struct IOCLBag : virtual IOCLCollection {
 };
 
 /// A cursor over a collection, usable from GELLO.
-struct IOCLIterator : virtual IOCLAny {
+struct GELLO_API IOCLIterator : virtual IOCLAny {
   static constexpr GUID IID = GUIDLiteral("{AB4A9121-B62A-490D-836F-0624E038C387}");
   virtual bool at_end() const = 0;
   virtual Ref<IOCLAny> get_element() const = 0;
@@ -249,7 +250,7 @@ struct IOCLIterator : virtual IOCLAny {
 };
 
 /// A light cursor for the engine's own loops; it starts before the first element.
-struct IFastIterator : virtual RefCounted {
+struct GELLO_API IFastIterator : virtual RefCounted {
   static constexpr GUID IID = GUIDLiteral("{9CB21584-9C7E-4B76-A466-8157C46A3DBB}");
   /// No current element (the cursor does not move).
   virtual bool AtEnd() const = 0;
@@ -261,7 +262,7 @@ struct IFastIterator : virtual RefCounted {
 };
 
 /// The evaluator's callback, through which a collection runs a compiled body per element.
-struct IGelloVM : virtual RefCounted {
+struct GELLO_API IGelloVM : virtual RefCounted {
   static constexpr GUID IID = GUIDLiteral("{05ABD57A-254A-4DF7-BF3E-F3F2BFEDE384}");
   /// Evaluates the body at thunk_addr for one element and the running accumulator.
   virtual Ref<IOCLAny> EvaluateBody(std::int32_t thunk_addr, IOCLAny* element,

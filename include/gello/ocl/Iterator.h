@@ -1,5 +1,6 @@
 #pragma once
 // Cursors over collections: the engine's fast iterator and the script-visible Iterator.
+#include "gello/foundation/Export.h"
 #include "gello/ocl/Any.h"
 
 namespace gello {
@@ -7,7 +8,7 @@ namespace gello {
 class TOCLCollection;
 
 /// The in-memory fast iterator: stands before element 0 until the first Advance.
-class TFastIterator : public virtual IFastIterator {
+class GELLO_API TFastIterator : public virtual IFastIterator {
  public:
   explicit TFastIterator(const Ref<IOCLCollection>& Collection) : ACollection(Collection) {}
 
@@ -23,7 +24,7 @@ class TFastIterator : public virtual IFastIterator {
 };
 
 /// The GELLO Iterator: a 0-based position over a collection it keeps alive.
-class TOCLIterator : public TOCLAny, public virtual IOCLIterator {
+class GELLO_API TOCLIterator : public TOCLAny, public virtual IOCLIterator {
  public:
   explicit TOCLIterator(const Ref<TOCLCollection>& Collection);
   ~TOCLIterator() override;

@@ -1,12 +1,13 @@
 #pragma once
 // The storage base of tuples and collections: a model class and an ordered list of values.
 #include <vector>
+#include "gello/foundation/Export.h"
 #include "gello/ocl/Any.h"
 
 namespace gello {
 
 /// Holds its model class and its values in memory.
-class TOCLMemInstance : public TOCLAny {
+class GELLO_API TOCLMemInstance : public TOCLAny {
  public:
   TOCLMemInstance() = default;
   /// A value of AClass (refused when its interface GUID is null).

@@ -1,11 +1,12 @@
 #pragma once
 // The null value: what a nil becomes before it can reach GELLO.
+#include "gello/foundation/Export.h"
 #include "gello/ocl/Any.h"
 
 namespace gello {
 
 /// Never defined; property access on it gives another null value.
-class TOCLNull : public TOCLAny {
+class GELLO_API TOCLNull : public TOCLAny {
  public:
   TOCLNull() = default;
   explicit TOCLNull(const Ref<IRTTIClass>& AClass) : TOCLAny(AClass) {}

@@ -1,11 +1,12 @@
 #pragma once
 // Real numbers on 80-bit extended floats; arithmetic follows IEEE (no test for zero divisors).
+#include "gello/foundation/Export.h"
 #include "gello/ocl/Any.h"
 
 namespace gello {
 
 /// A Real value.
-class TOCLReal : public TOCLAny, public virtual IOCLReal {
+class GELLO_API TOCLReal : public TOCLAny, public virtual IOCLReal {
  public:
   explicit TOCLReal(Extended Value = 0) : FasExtended(Value) {}
   /// A Real of a model class; it starts at 0.
@@ -65,6 +66,6 @@ class TOCLReal : public TOCLAny, public virtual IOCLReal {
 };
 
 /// The value made for an operation whose right operand is nil: undefined, with the reason.
-Ref<IOCLReal> NilOperandReal(const char16_t* Operation);
+GELLO_API Ref<IOCLReal> NilOperandReal(const char16_t* Operation);
 
 }  // namespace gello

@@ -1,11 +1,12 @@
 #pragma once
 // Sequences: insertion order, duplicates allowed, 1-based positions.
+#include "gello/foundation/Export.h"
 #include "gello/ocl/Collection.h"
 
 namespace gello {
 
 /// An ordered collection; every operation answers a new Sequence.
-class TOCLSequence : public TOCLCollection, public virtual IOCLSequence {
+class GELLO_API TOCLSequence : public TOCLCollection, public virtual IOCLSequence {
  public:
   /// A Sequence of model class AClass (System Sequence(T) when nil).
   explicit TOCLSequence(const Ref<IRTTIClass>& AClass = nullptr, bool InMemory = true);
@@ -43,6 +44,6 @@ class TOCLSequence : public TOCLCollection, public virtual IOCLSequence {
 };
 
 /// Appends to Into the elements of c, expanding nested collections at every depth.
-void AddFlattened(TOCLCollection& Into, IOCLCollection* c, bool Distinct);
+GELLO_API void AddFlattened(TOCLCollection& Into, IOCLCollection* c, bool Distinct);
 
 }  // namespace gello

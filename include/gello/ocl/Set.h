@@ -1,11 +1,12 @@
 #pragma once
 // Sets: no two elements equal, kept in the order they were first added.
+#include "gello/foundation/Export.h"
 #include "gello/ocl/Collection.h"
 
 namespace gello {
 
 /// A collection without duplicates; every operation answers a new collection.
-class TOCLSet : public TOCLCollection, public virtual IOCLSet {
+class GELLO_API TOCLSet : public TOCLCollection, public virtual IOCLSet {
  public:
   /// A Set of model class AClass (System Set(T) when nil).
   explicit TOCLSet(const Ref<IRTTIClass>& AClass = nullptr, bool InMemory = true);

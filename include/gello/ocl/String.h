@@ -1,11 +1,12 @@
 #pragma once
 // Text values: UTF-16 code units, 1-based positions; every operation answers a new value.
+#include "gello/foundation/Export.h"
 #include "gello/ocl/Any.h"
 
 namespace gello {
 
 /// A String value holding its text in FasString.
-class TOCLString : public TOCLAny, public virtual IOCLString {
+class GELLO_API TOCLString : public TOCLAny, public virtual IOCLString {
  public:
   explicit TOCLString(String Value = String()) : FasString(std::move(Value)) {}
   /// A String of a model class; it starts empty.
@@ -50,7 +51,7 @@ class TOCLString : public TOCLAny, public virtual IOCLString {
 };
 
 /// A String that is never defined; otherwise it behaves as the text it holds.
-class TOCLNullString : public TOCLString {
+class GELLO_API TOCLNullString : public TOCLString {
  public:
   using TOCLString::TOCLString;
   bool IsDefined() const override { return false; }

@@ -1,11 +1,12 @@
 #pragma once
 // Values of model classes that extend the built-in String with properties of their own.
+#include "gello/foundation/Export.h"
 #include "gello/ocl/String.h"
 
 namespace gello {
 
 /// Keeps its text as a String and its extra properties in a tuple over its own model class.
-class TOCLStringDescendant : public TOCLString {
+class GELLO_API TOCLStringDescendant : public TOCLString {
  public:
   explicit TOCLStringDescendant(const Ref<IRTTIClass>& AClass);
 

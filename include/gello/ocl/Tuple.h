@@ -1,11 +1,12 @@
 #pragma once
 // Tuples: values whose fields are the properties of their model class.
+#include "gello/foundation/Export.h"
 #include "gello/ocl/MemInstance.h"
 
 namespace gello {
 
 /// Keeps one field per property index of its class; without a class it is a bare "Tuple".
-class TOCLTuple : public TOCLMemInstance, public virtual IOCLTuple {
+class GELLO_API TOCLTuple : public TOCLMemInstance, public virtual IOCLTuple {
  public:
   /// Sizes the fields to the class's property count.
   explicit TOCLTuple(const Ref<IRTTIClass>& AClass = nullptr);

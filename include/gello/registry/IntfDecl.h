@@ -11,6 +11,7 @@
 #include <string_view>
 #include <type_traits>
 #include <utility>
+#include "gello/foundation/Export.h"
 
 #include "gello/foundation/CachedCast.h"
 #include "gello/registry/OCLIntfTables.h"
@@ -43,9 +44,9 @@ struct TIntfName<IGelloVM> {
 };
 
 /// The object behind a native-interface value, or the value itself (registry/NativeInterface).
-RefCounted* NativeTarget(IOCLAny* Value) noexcept;
+GELLO_API RefCounted* NativeTarget(IOCLAny* Value) noexcept;
 /// Raised when Self does not support the interface whose slot is called.
-[[noreturn]] void RaiseUnsupportedSelf(const char* IntfName);
+[[noreturn]] GELLO_API void RaiseUnsupportedSelf(const char* IntfName);
 
 namespace detail {
 

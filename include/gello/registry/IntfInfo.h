@@ -3,6 +3,7 @@
 // Tables are constant data made by the declaration facility (registry/IntfDecl.h).
 #include <cstdint>
 #include <span>
+#include "gello/foundation/Export.h"
 
 #include "gello/foundation/Extended.h"
 #include "gello/foundation/GUID.h"
@@ -43,13 +44,13 @@ enum THostKind : std::uint8_t {
 enum THostClassKind : std::uint8_t { hc_interface, hc_class };
 
 /// A host type: an implementing class, or (as TIntfInfo) an interface.
-struct THostClassInfo {
+struct GELLO_API THostClassInfo {
   const char* Name;
   THostClassKind HostKind = hc_class;
 };
 
 /// A parameter: flags, name, type name and, for a described interface, its description.
-struct TIntfParam {
+struct GELLO_API TIntfParam {
   std::uint8_t Flags;
   const char* Name;
   const char* TypeName;
@@ -79,7 +80,7 @@ union TAccessor {
 struct THostPropInfo {};
 
 /// One entry of a method table. A callable method's first parameter is Self.
-struct TIntfEntry : THostPropInfo {
+struct GELLO_API TIntfEntry : THostPropInfo {
   const char* Name;
   TMethodKind Kind;
   TCallConv CallConv;
@@ -92,7 +93,7 @@ struct TIntfEntry : THostPropInfo {
 };
 
 /// An interface: name, id, parent (none for the root), declared count and the entries.
-struct TIntfInfo : THostClassInfo {
+struct GELLO_API TIntfInfo : THostClassInfo {
   GUID IID;
   const TIntfInfo* Parent;
   std::uint16_t DeclaredCount;
@@ -123,7 +124,7 @@ struct TDescribed {
 /// Declares that interface I has a description named Text; one source file defines its Info.
 #define GELLO_DESCRIBED(I, Text)              \
   template <>                                 \
-  struct TDescribed<I> {                      \
+  struct GELLO_API TDescribed<I> {            \
     static constexpr bool Known = true;       \
     static constexpr const char* Name = Text; \
     static const TIntfInfo Info;              \
@@ -131,7 +132,7 @@ struct TDescribed {
 
 /// What ExecuteMethod needs of a model method: the code, the name and, when present, the
 /// extended description (calling convention and arguments).
-struct TMethodInfo {
+struct GELLO_API TMethodInfo {
   TSlotCall Code = nullptr;
   String Name;
   const TIntfEntry* Description = nullptr;

@@ -1,11 +1,12 @@
 #pragma once
 // An OCL value over a host object, whose properties are read and written through its slots.
+#include "gello/foundation/Export.h"
 #include "gello/ocl/Any.h"
 
 namespace gello {
 
 /// Wraps a host interface reference with the model class that describes it.
-class TOCLNativeInterface : public TOCLAny {
+class GELLO_API TOCLNativeInterface : public TOCLAny {
  public:
   TOCLNativeInterface(const Ref<IRTTIClass>& Class, const Ref<RefCounted>& Intf);
 

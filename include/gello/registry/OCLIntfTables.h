@@ -1,13 +1,14 @@
 #pragma once
 // The described interfaces of the OCL runtime: the root, IInvokable, the instance interface and
 // every OCL value interface. Their tables live in src/registry/OCLIntfTables.cpp.
+#include "gello/foundation/Export.h"
 #include "gello/ocl/Interfaces.h"
 #include "gello/registry/IntfInfo.h"
 
 namespace gello {
 
 /// The root of host interfaces that the registry can expose as native classes.
-struct IInvokable : virtual RefCounted {
+struct GELLO_API IInvokable : virtual RefCounted {
   static constexpr GUID IID = GUIDLiteral("{8F0A0C6E-3B0E-4D1A-9F6B-2C1D7E5A4B31}");
 };
 

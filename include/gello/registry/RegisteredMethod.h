@@ -1,12 +1,13 @@
 #pragma once
 // A model method bound to a slot of its implementing interface.
+#include "gello/foundation/Export.h"
 #include "gello/model/Method.h"
 #include "gello/registry/IntfInfo.h"
 
 namespace gello {
 
 /// A method the registry made from an interface entry; it carries the slot's information.
-class TOCLRegisteredMethod : public TRTTIMethod {
+class GELLO_API TOCLRegisteredMethod : public TRTTIMethod {
  public:
   TOCLRegisteredMethod(const String& Name, const Ref<IRTTIClass>& ResultType,
                        const TIntfEntry& Entry, int Slot);
@@ -17,6 +18,6 @@ class TOCLRegisteredMethod : public TRTTIMethod {
 };
 
 /// The information ExecuteMethod needs for Method, or none when the registry did not bind it.
-const TMethodInfo* GetMethodInfo(const IRTTIMethod* Method) noexcept;
+GELLO_API const TMethodInfo* GetMethodInfo(const IRTTIMethod* Method) noexcept;
 
 }  // namespace gello

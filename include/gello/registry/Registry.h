@@ -3,6 +3,7 @@
 // interfaces and implementing classes. One per process, made by RegisterInterfaces.
 #include <memory>
 #include <vector>
+#include "gello/foundation/Export.h"
 
 #include "gello/model/Globals.h"
 #include "gello/registry/IntfInfo.h"
@@ -10,7 +11,7 @@
 namespace gello {
 
 /// One registered interface with its model class and implementing class.
-class TOCLRegistryEntry {
+class GELLO_API TOCLRegistryEntry {
  public:
   /// Gives the class the interface's GUID and the interface as its host type.
   TOCLRegistryEntry(const TIntfInfo& Intf, const Ref<IRTTIClass>& Class);
@@ -30,7 +31,7 @@ class TOCLRegistryEntry {
 };
 
 /// The registry: its entries in order, and the global scope that holds the registered packages.
-class TOCLClassRegistry {
+class GELLO_API TOCLClassRegistry {
  public:
   TOCLClassRegistry();
   ~TOCLClassRegistry();
@@ -96,16 +97,16 @@ class TOCLClassRegistry {
 };
 
 /// The registry; raises when RegisterInterfaces has not made it.
-TOCLClassRegistry& OCLRegistry();
+GELLO_API TOCLClassRegistry& OCLRegistry();
 /// Makes a new registry (freeing any previous one) with the System classes and Booleans.
-void RegisterInterfaces();
+GELLO_API void RegisterInterfaces();
 /// Unregisters the System package.
-void UnregisterInterfaces();
+GELLO_API void UnregisterInterfaces();
 /// Unregisters every package, last first.
-void UnregisterAllInterfaces();
+GELLO_API void UnregisterAllInterfaces();
 /// Dumps and frees the registry and drops the System handles (also done at process end).
-void FinalizeOCLRegistry();
+GELLO_API void FinalizeOCLRegistry();
 /// Target := Source seen through the registered interface IID, or none.
-void OCLCast(RefCounted* Source, const GUID& IID, Ref<RefCounted>& Target);
+GELLO_API void OCLCast(RefCounted* Source, const GUID& IID, Ref<RefCounted>& Target);
 
 }  // namespace gello
