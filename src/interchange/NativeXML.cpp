@@ -70,37 +70,60 @@ void SetClassName(pugi::xml_node Node, const char* Name, IRTTIClass* Class) {
   if (Class) SetText(Node, Name, Class->GetName());
 }
 
+namespace {
+
+// A failure while reading a node is placed at that node, unless a node inside it already was.
+template <class Read>
+auto AtNode(pugi::xml_node Node, Read&& ReadNode) {
+  try {
+    return ReadNode();
+  } catch (Exception& E) {
+    if (E.Where().Offset < 0) {
+      TSourcePosition Where = E.Where();
+      Where.Offset = Node.offset_debug();
+      E.SetWhere(std::move(Where));
+    }
+    throw;
+  }
+}
+
+}  // namespace
+
 static void ReadElement(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
   FormOf(Element.GetKind()).ReadXML(Element, Node, Reading);
 }
 
 void ReadElement(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
   GELLO_ASSERT(Node, u"Trying to read nil xml node in model");
-  ReadElement(Element, TElementNode(Node), Reading);
+  AtNode(Node, [&] { ReadElement(Element, TElementNode(Node), Reading); });
 }
 
 Ref<IRTTIElement> LoadElement(pugi::xml_node Node, TReading& Reading) {
   if (!Node) return nullptr;
+  return AtNode(Node, [&] {
+    const TElementNode Parts(Node);
+    Ref<IRTTIElement> Element =
+        Reading.Create(Parts.Attribute("kind"), FromUTF8(Parts.Attribute("name")));
+    if (Element) ReadElement(*Element, Parts, Reading);
+    return Element;
+  });
+}
+
+static void ReadListItem(IRTTIElementList& List, pugi::xml_node Node, TReading& Reading) {
   const TElementNode Parts(Node);
-  Ref<IRTTIElement> Element =
-      Reading.Create(Parts.Attribute("kind"), FromUTF8(Parts.Attribute("name")));
-  if (Element) ReadElement(*Element, Parts, Reading);
-  return Element;
+  String Name = FromUTF8(Parts.Attribute("name"));
+  if (Ref<IRTTIElement> Existing = List.GetMergeElements() ? List.GetItemByName(Name) : nullptr)
+    return ReadElement(*Existing, Parts, Reading);
+  Ref<IRTTIElement> Element = Reading.Create(Parts.Attribute("kind"), std::move(Name));
+  List.Add(Element);
+  ReadElement(*Element, Parts, Reading);
 }
 
 static void ReadList(IRTTIElementList& List, pugi::xml_node Node, TReading& Reading) {
   GELLO_ASSERT(Node, u"Trying to read nil xml node in model");
   for (pugi::xml_node Child : Node.children()) {
-    if (Child.type() != pugi::node_element) continue;
-    const TElementNode Parts(Child);
-    String Name = FromUTF8(Parts.Attribute("name"));
-    if (Ref<IRTTIElement> Existing = List.GetMergeElements() ? List.GetItemByName(Name) : nullptr) {
-      ReadElement(*Existing, Parts, Reading);
-      continue;
-    }
-    Ref<IRTTIElement> Element = Reading.Create(Parts.Attribute("kind"), std::move(Name));
-    List.Add(Element);
-    ReadElement(*Element, Parts, Reading);
+    if (Child.type() == pugi::node_element)
+      AtNode(Child, [&] { ReadListItem(List, Child, Reading); });
   }
 }
 

@@ -33,7 +33,12 @@ Ref<TRTTIPackage> CreatePackageFromFile(const String& FileName, IRTTIGlobals* Gl
 void LoadFromFile(IRTTIPackage& Package, const String& FileName, IRTTIGlobals* Globals) {
   pugi::xml_document Document;
   LoadXMLDocument(Document, FileName);
-  ReadXML(Package, Document.child("GELLO"), Globals);
+  try {
+    ReadXML(Package, Document.child("GELLO"), Globals);
+  } catch (Exception& E) {
+    LocateInFile(E, FileName);
+    throw;
+  }
 }
 
 void SaveToFile(IRTTIPackage& Package, const String& FileName) {

@@ -6,6 +6,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <fstream>
+#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -86,30 +88,73 @@ TPugiBuffer Transcode(std::string_view Bytes, const std::string& Encoding) {
   }
 }
 
-void Parse(pugi::xml_document& Document, TPugiBuffer& Buffer, pugi::xml_encoding Encoding,
-           const String& Where) {
+std::string EncodingOf(std::string_view Bytes) {
+  return DeclaredEncoding(Bytes.substr(0, std::min<std::size_t>(Bytes.size(), 256)));
+}
+
+void Parse(pugi::xml_document& Document, TPugiBuffer& Buffer, pugi::xml_encoding Encoding) {
   const std::size_t Size = Buffer.Size;
   pugi::xml_parse_result Result =
       Document.load_buffer_inplace_own(Buffer.Release(), Size, pugi::parse_default, Encoding);
-  if (!Result)
-    throw Exception(FromUTF8(Result.description()) + u" at offset " + IntToStr(Result.offset) +
-                    Where);
+  if (Result) return;
+  TSourcePosition Where;
+  Where.Offset = Result.offset;
+  Exception Failure(FromUTF8(Result.description()));
+  Failure.SetWhere(std::move(Where));
+  throw Failure;
 }
 
-void ParseOwned(pugi::xml_document& Document, TPugiBuffer& Buffer, const String& Where) {
-  const std::string Encoding =
-      DeclaredEncoding(std::string_view(Buffer.Data, std::min<std::size_t>(Buffer.Size, 256)));
-  if (IsUnicode(Encoding)) return Parse(Document, Buffer, pugi::encoding_auto, Where);
+void ParseOwned(pugi::xml_document& Document, TPugiBuffer& Buffer) {
+  const std::string Encoding = EncodingOf(std::string_view(Buffer.Data, Buffer.Size));
+  if (IsUnicode(Encoding)) return Parse(Document, Buffer, pugi::encoding_auto);
   TPugiBuffer Converted = Transcode(std::string_view(Buffer.Data, Buffer.Size), Encoding);
-  Parse(Document, Converted, pugi::encoding_utf8, Where);
+  Parse(Document, Converted, pugi::encoding_utf8);
+}
+
+// Lines count from 1; columns count characters from 1, so UTF-8 continuation bytes are skipped.
+void SetLineAndColumn(TSourcePosition& Where, std::string_view Text) {
+  const std::string_view Before = Text.substr(0, static_cast<std::size_t>(Where.Offset));
+  const std::size_t LineStart = Before.rfind('\n') + 1;  // 0 on the first line
+  Where.Line = 1 + static_cast<int>(std::count(Before.begin(), Before.end(), '\n'));
+  Where.Column = 1 + static_cast<int>(std::count_if(
+                         Before.begin() + static_cast<std::ptrdiff_t>(LineStart), Before.end(),
+                         [](char C) { return (static_cast<unsigned char>(C) & 0xC0) != 0x80; }));
 }
 
 }  // namespace
 
+void LocateInText(Exception& E, std::string_view Bytes) {
+  TSourcePosition Where = E.Where();
+  if (Where.Offset < 0 || Where.Line > 0) return;
+  const std::string Encoding = EncodingOf(Bytes);
+  if (IsUnicode(Encoding)) {
+    SetLineAndColumn(Where, Bytes);
+  } else {
+    const TPugiBuffer Converted = Transcode(Bytes, Encoding);
+    SetLineAndColumn(Where, std::string_view(Converted.Data, Converted.Size));
+  }
+  E.SetWhere(std::move(Where));
+}
+
+void LocateInFile(Exception& E, const String& FileName) {
+  if (E.Where().Offset < 0 || E.Where().Line > 0) return;
+  TSourcePosition Where = E.Where();
+  Where.File = FileName;
+  E.SetWhere(Where);
+  std::ifstream File(ToUTF8(FileName), std::ios::binary);
+  const std::string Bytes{std::istreambuf_iterator<char>(File), std::istreambuf_iterator<char>()};
+  LocateInText(E, Bytes);
+}
+
 void ParseXMLDocument(pugi::xml_document& Document, std::string_view Bytes) {
   TPugiBuffer Buffer(Bytes.size());
   std::memcpy(Buffer.Data, Bytes.data(), Bytes.size());
-  ParseOwned(Document, Buffer, {});
+  try {
+    ParseOwned(Document, Buffer);
+  } catch (Exception& E) {
+    LocateInText(E, Bytes);
+    throw;
+  }
 }
 
 void LoadXMLDocument(pugi::xml_document& Document, const String& FileName) {
@@ -123,7 +168,12 @@ void LoadXMLDocument(pugi::xml_document& Document, const String& FileName) {
   TPugiBuffer Buffer(static_cast<std::size_t>(Length));
   if (std::fread(Buffer.Data, 1, Buffer.Size, File.get()) != Buffer.Size)
     throw Exception(u"Cannot read file \"" + FileName + u"\"");
-  ParseOwned(Document, Buffer, u" in " + FileName);
+  try {
+    ParseOwned(Document, Buffer);
+  } catch (Exception& E) {
+    LocateInFile(E, FileName);
+    throw;
+  }
 }
 
 }  // namespace gello

@@ -1,24 +1,42 @@
 #pragma once
 // The exception classes of gello. Messages are the system's own texts, kept exactly.
+#include <cstdint>
 #include <exception>
 #include <string>
+#include <utility>
 #include "gello/foundation/Export.h"
 
 #include "gello/foundation/String.h"
 
 namespace gello {
 
-/// The general exception: a message as String, and as UTF-8 through what().
+/// Where in a document a failure arose; a part that is not known stays empty, -1 or 0.
+struct GELLO_API TSourcePosition {
+  String File;
+  std::int64_t Offset = -1;  ///< bytes into the document's UTF-8 text
+  int Line = 0;              ///< from 1
+  int Column = 0;            ///< from 1, in characters
+};
+
+/// The general exception: a message as String, and as UTF-8 through what(), and where in a
+/// document it arose when a reader knows.
 class GELLO_API Exception : public std::exception {
  public:
   explicit Exception(String Message);
   const String& Message() const noexcept { return FMessage; }
   const char* what() const noexcept override { return FWhat.c_str(); }
+  const TSourcePosition& Where() const noexcept { return FWhere; }
+  /// Records where the failure arose; the message stays as it is.
+  void SetWhere(TSourcePosition Where) { FWhere = std::move(Where); }
 
  private:
   String FMessage;
   std::string FWhat;
+  TSourcePosition FWhere;
 };
+
+/// The message behind "FILE:LINE:COLUMN: ", with only the parts of the position that are known.
+GELLO_API String LocatedMessage(const Exception& E);
 
 /// A text that does not convert (numbers, booleans, GUIDs, malformed UTF).
 class GELLO_API EConvertError : public Exception {
