@@ -29,11 +29,19 @@ struct ReaderDeleter {
 };
 using ReaderHandle = std::unique_ptr<xmlTextReader, ReaderDeleter>;
 
+// The first report is the cause; later ones follow from it.
+void RecordFault(void* Context, xmlErrorPtr Error) {
+  auto& Fault = *static_cast<TSourcePosition*>(Context);
+  if (Fault.Line > 0 || Error->line <= 0) return;
+  Fault.Line = Error->line;
+  Fault.Column = Error->int2;
+}
+
 }  // namespace
 
 TXMLTextReader::TXMLTextReader(xmlTextReaderPtr Reader, std::unique_ptr<TStream> Owned)
     : FOwnedStream(std::move(Owned)), FReader(Reader) {
-  xmlTextReaderSetStructuredErrorHandler(FReader, xmltext::IgnoreError, nullptr);
+  xmlTextReaderSetStructuredErrorHandler(FReader, RecordFault, &FFault);
 }
 
 // Takes over Reader, or raises Failure when there is none.
@@ -49,7 +57,9 @@ Ref<TXMLTextReader> TXMLTextReader::Wrap(xmlTextReaderPtr Reader, const String& 
 Ref<TXMLTextReader> TXMLTextReader::Create(const String& FileName) {
   const String Failure = u"unable to open " + FileName;
   xmltext::TQuietErrors Quiet;
-  return Wrap(xmlNewTextReaderFilename(ToLatin1(FileName).c_str()), Failure, nullptr);
+  auto Reader = Wrap(xmlNewTextReaderFilename(ToLatin1(FileName).c_str()), Failure, nullptr);
+  Reader->FFault.File = FileName;
+  return Reader;
 }
 
 Ref<TXMLTextReader> TXMLTextReader::Create(TStream& Stream) {
@@ -72,12 +82,18 @@ TXMLTextReader::~TXMLTextReader() {
   xmlFreeTextReader(FReader);
 }
 
+void TXMLTextReader::Fail(const char16_t* Message) const {
+  EXMLTextReader Failure(Message);
+  Failure.SetWhere(FFault);
+  throw Failure;
+}
+
 bool TXMLTextReader::Read() {
   if (FPendingEmpty) PopPath();
   FPendingEmpty = false;
   ResetNode();
   const int R = xmlTextReaderRead(FReader);
-  if (R < 0) throw EXMLTextReader(u"parse error on Read");
+  if (R < 0) Fail(u"parse error on Read");
   switch (xmlTextReaderNodeType(FReader)) {
     case XML_READER_TYPE_ELEMENT:
       PushPath(GetName());
@@ -134,7 +150,7 @@ TxmlReaderTypes TXMLTextReader::GetNodeType() {
 int TXMLTextReader::MoveToNextAttribute() {
   ResetNode();
   const int R = xmlTextReaderMoveToNextAttribute(FReader);
-  if (R < 0) throw EXMLTextReader(u"parse error on MoveToNextAttribute");
+  if (R < 0) Fail(u"parse error on MoveToNextAttribute");
   return R;
 }
 

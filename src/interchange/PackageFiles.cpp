@@ -48,6 +48,12 @@ void SaveToFile(IRTTIPackage& Package, const String& FileName) {
     throw Exception(u"Cannot create file \"" + FileName + u"\"");
 }
 
+void WriteModelDocument(IRTTIPackage& Package, std::ostream& Out) {
+  pugi::xml_document Document;
+  BuildDocument(Document, Package);
+  Document.save(Out, "  ", OutputFormat, pugi::encoding_utf8);
+}
+
 void SaveToStream(IRTTIPackage& Package, const String& FileName) {
   std::ofstream Stream(ToUTF8(FileName), std::ios::binary | std::ios::trunc);
   if (!Stream) throw Exception(u"Cannot create file \"" + FileName + u"\"");
@@ -60,9 +66,7 @@ void SaveToStream(IRTTIPackage& Package, const String& FileName) {
     Bytes.push_back(static_cast<char>(C >> 8));
   }
   Stream.write(Bytes.data(), static_cast<std::streamsize>(Header.size()));
-  pugi::xml_document Document;
-  BuildDocument(Document, Package);
-  Document.save(Stream, "  ", OutputFormat, pugi::encoding_utf8);
+  WriteModelDocument(Package, Stream);
   if (!Stream) throw Exception(u"Cannot write file \"" + FileName + u"\"");
 }
 

@@ -126,6 +126,27 @@ TEST(XMLTextReader, RaisesOnMalformedOrTruncatedDocumentsAfterTheGoodPart) {
   ExpectRaises([&] { Walk(*TXMLTextReader::Create(Failing)); }, u"parse error on Read", true);
 }
 
+TEST(XMLTextReader, AFailedReadSaysWhereInTheFileItStopped) {
+  const std::string Name = TempFile("bad.xml");
+  std::ofstream(Name) << "<a>\n  <b></c>\n</a>\n";
+  auto R = TXMLTextReader::Create(FromUTF8(Name));
+  try {
+    Walk(*R);
+    ADD_FAILURE() << "no exception";
+  } catch (const EXMLTextReader& E) {
+    EXPECT_EQ(LocatedMessage(E), FromUTF8(Name) + u":2:10: parse error on Read");
+  }
+  std::filesystem::remove(Name);
+  // A string has no file to name, but still a line.
+  try {
+    Walk(*TXMLTextReader::CreateForString(u"<a>\n<b>"));
+    ADD_FAILURE() << "no exception";
+  } catch (const EXMLTextReader& E) {
+    EXPECT_EQ(E.Where().Line, 2);
+    EXPECT_TRUE(E.Where().File.empty());
+  }
+}
+
 TEST(XMLTextReader, ReadsFilesAndStreamsAndWidensEachByte) {
   ExpectRaises([] { TXMLTextReader::Create(u"/no/such/file.xml"); },
                u"unable to open /no/such/file.xml", false);

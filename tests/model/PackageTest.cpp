@@ -165,4 +165,12 @@ TEST(MethodTimer, LogsStartAndEndOnRelease) {
   }
   ASSERT_EQ(Log.Lines().size(), 2u);
   EXPECT_EQ(Log.Lines()[1], u"work took 0 secs");
+  // A timer keeps the setting it started with, so its lines come in pairs.
+  Ref<TMethodTimer> Started = MethodTimer(u"started");
+  SetMethodTimersLogged(false);
+  MethodTimer(u"quiet");
+  Started = nullptr;
+  SetMethodTimersLogged(true);
+  EXPECT_EQ(Log.Lines().size(), 4u);
+  EXPECT_EQ(Log.Count(u"quiet"), 0u);
 }

@@ -6,6 +6,7 @@
 #include <memory>
 #include "gello/foundation/Export.h"
 
+#include "gello/foundation/Exceptions.h"
 #include "gello/foundation/GUID.h"
 #include "gello/foundation/RefCounted.h"
 #include "gello/foundation/Stream.h"
@@ -99,6 +100,9 @@ class GELLO_API TXMLTextReader : public virtual IXMLTextReader {
   bool FValueCached = false;
   _xmlTextReader* FReader;
   bool FPendingEmpty = false;
+  // Where libxml2 first reported a fault; a failing read raises with it.
+  TSourcePosition FFault;
+  [[noreturn]] void Fail(const char16_t* Message) const;
 };
 
 }  // namespace gello

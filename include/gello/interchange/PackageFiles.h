@@ -1,5 +1,6 @@
 #pragma once
 // A package's native model files and its stream form.
+#include <ostream>
 #include "gello/foundation/Export.h"
 #include "gello/model/Package.h"
 
@@ -12,6 +13,8 @@ GELLO_API Ref<TRTTIPackage> CreatePackageFromFile(const String& FileName, IRTTIG
 GELLO_API void LoadFromFile(IRTTIPackage& Package, const String& FileName, IRTTIGlobals* Globals);
 /// Writes Package as a native model file.
 GELLO_API void SaveToFile(IRTTIPackage& Package, const String& FileName);
+/// Writes Package as a native model document to Out.
+GELLO_API void WriteModelDocument(IRTTIPackage& Package, std::ostream& Out);
 /// Writes the header "GELLO_PACKAGE" (its first 13 bytes of UTF-16), then the native form.
 GELLO_API void SaveToStream(IRTTIPackage& Package, const String& FileName);
 
