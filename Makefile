@@ -7,21 +7,33 @@ ifeq ($(CI),true)
 CMAKE_FLAGS += -DGELLO_WERROR=ON
 endif
 
-.PHONY: deps build test demo bench test-sanitize fuzz clean
+.PHONY: deps configure build test demo bench package docs test-sanitize fuzz clean
 
 deps:
 	scripts/install-deps.sh
 
-build: deps
+configure: deps
 	cmake -S . -B $(BUILD) -G Ninja $(CMAKE_FLAGS)
+
+build: configure
 	cmake --build $(BUILD) -j $(JOBS)
 
 test: build
 	ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
 
-demo: build
+# Only the tool and the library it links, not the tests and benchmarks.
+demo: configure
+	cmake --build $(BUILD) -j $(JOBS) --target gello_tool
 	$(BUILD)/tools/gello/gello xml paths examples/patient-record.xml
 	$(BUILD)/tools/gello/gello model info examples/clinical-model.xml
+
+# A Debian package of the library, headers, tool, man page and completion, in $(BUILD).
+package: build
+	cd $(BUILD) && cpack -G DEB
+
+# The API reference from the public headers, in $(BUILD)/docs/html.
+docs: deps
+	scripts/make-docs.sh $(BUILD)/docs
 
 bench: build
 	for b in $(BUILD)/bench/bench_*; do $$b; done

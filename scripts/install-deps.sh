@@ -7,6 +7,7 @@ packages=(
   libxml2-dev libpugixml-dev nlohmann-json3-dev uuid-dev libcli11-dev
   libelf-dev libglib2.0-dev
   libgtest-dev libgmock-dev libbenchmark-dev locales
+  pkg-config help2man doxygen dpkg-dev file
 )
 
 sudo=""

@@ -102,7 +102,12 @@ Ref<To> DynCast(From* P) noexcept {
 
 }  // namespace gello
 
+namespace std {
+
+/// Hashes a Ref by the object it points at, as its equality compares.
 template <class T>
-struct std::hash<gello::Ref<T>> {
+struct hash<gello::Ref<T>> {
   std::size_t operator()(const gello::Ref<T>& R) const noexcept { return std::hash<T*>()(R.get()); }
 };
+
+}  // namespace std

@@ -45,7 +45,7 @@ struct GELLO_API IXMLTextReader : virtual RefCounted {
   /// Moves to the next node; false at the end of input. Raises EXMLTextReader on malformed XML.
   virtual bool Read() = 0;
   virtual int GetDepth() = 0;
-  /// True on an element written as <a/>.
+  /// True on an element written as `<a/>`.
   virtual bool GetIsEmpty() = 0;
   virtual const String& GetName() = 0;
   virtual TxmlReaderTypes GetNodeType() = 0;

@@ -2,6 +2,7 @@
 // Calls through slots: script methods with interface arguments, and the typed property thunks
 // of host objects. Every reference passed in is held for the length of the call.
 #include "gello/foundation/Export.h"
+#include "gello/ocl/Interfaces.h"
 #include "gello/registry/IntfInfo.h"
 
 namespace gello {
