@@ -1,9 +1,16 @@
 #include "gello/foundation/String.h"
 
+#include <algorithm>
+
 #include "gello/foundation/Exceptions.h"
 
 namespace gello {
 namespace {
+
+// ASCII is the same text on both sides of the streaming XML seam, and most names are ASCII.
+bool IsASCII(StringView Text) {
+  return std::all_of(Text.begin(), Text.end(), [](char16_t C) { return C < 0x80; });
+}
 
 constexpr char16_t ReplacementChar = 0xFFFD;
 
@@ -111,6 +118,14 @@ std::string ToLatin1(StringView Text) {
   for (std::size_t i = 0; i < Text.size(); ++i)
     Result[i] = Text[i] <= 0xFF ? static_cast<char>(Text[i]) : '?';
   return Result;
+}
+
+String FromXMLStreamText(StringView Streamed) {
+  return IsASCII(Streamed) ? String(Streamed) : FromUTF8(ToLatin1(Streamed));
+}
+
+String ToXMLStreamText(StringView Text) {
+  return IsASCII(Text) ? String(Text) : FromLatin1(ToUTF8(Text));
 }
 
 String IntToStr(std::int64_t Value) {

@@ -4,25 +4,35 @@
 #include "gello/model/Generic.h"
 
 namespace gello {
+namespace {
+
+// A built-in class whose kind is not its ancestor's.
+const Ref<IRTTIClass>& OfKind(const Ref<IRTTIClass>& Class, TRTTIClassKind Kind) {
+  Class->SetClassKind(Kind);
+  return Class;
+}
+
+}  // namespace
 
 TRTTIGlobals::TRTTIGlobals() : TRTTIPackage(u"Globals") {
   FSystem = MakeRef<TRTTIPackage>(u"System");
   AddMember(FSystem);
   FT = MakeRef<TRTTIGeneric>(u"T");
   FSystem->AddMember(FT);
-  FUndefined = MakeClass(u"_Undefined_", nullptr, u"OCLUndefined", rtti_undefined);
-  FUntyped = MakeClass(u"_Untyped_", nullptr, u"OCLUndefined", rtti_undefined);
-  FAny = MakeClass(u"Any", nullptr, u"OCLAny", rtti_class);
-  FReal = MakeClass(u"Real", FAny, u"OCLReal", rtti_real);
-  FString = MakeClass(u"String", FAny, u"OCLString", rtti_string);
-  FBoolean = MakeClass(u"Boolean", FAny, u"OCLBoolean", rtti_boolean);
-  FInteger = MakeClass(u"Integer", FReal, u"OCLInteger", rtti_integer);
+  FUndefined = MakeClass(u"_Undefined_", nullptr, u"OCLUndefined");
+  FUntyped = MakeClass(u"_Untyped_", nullptr, u"OCLUndefined");
+  FAny = OfKind(MakeClass(u"Any", nullptr, u"OCLAny"), rtti_class);
+  FReal = OfKind(MakeClass(u"Real", FAny, u"OCLReal"), rtti_real);
+  FString = OfKind(MakeClass(u"String", FAny, u"OCLString"), rtti_string);
+  FBoolean = OfKind(MakeClass(u"Boolean", FAny, u"OCLBoolean"), rtti_boolean);
+  FInteger = OfKind(MakeClass(u"Integer", FReal, u"OCLInteger"), rtti_integer);
   // Collection(T) keeps Any's kind: only the concrete collections are marked as collections.
-  FCollection = MakeCollection(u"Collection(T)", FAny, u"OCLCollection", rtti_class, FT);
-  FSet = MakeCollection(u"Set(T)", FCollection, u"OCLSet", rtti_set, FT);
-  FBag = MakeCollection(u"Bag(T)", FCollection, u"OCLBag", rtti_bag, FT);
-  FSequence = MakeCollection(u"Sequence(T)", FCollection, u"OCLSequence", rtti_sequence, FT);
-  FTuple = MakeClass(u"Tuple", FAny, u"OCLTuple", rtti_class);
+  FCollection = MakeCollection(u"Collection(T)", FAny, u"OCLCollection", FT);
+  FSet = OfKind(MakeCollection(u"Set(T)", FCollection, u"OCLSet", FT), rtti_set);
+  FBag = OfKind(MakeCollection(u"Bag(T)", FCollection, u"OCLBag", FT), rtti_bag);
+  FSequence =
+      OfKind(MakeCollection(u"Sequence(T)", FCollection, u"OCLSequence", FT), rtti_sequence);
+  FTuple = MakeClass(u"Tuple", FAny, u"OCLTuple");
   FTuple->SetIsTuple(true);
 }
 
@@ -31,16 +41,15 @@ TRTTIGlobals::~TRTTIGlobals() {
 }
 
 Ref<IRTTIClass> TRTTIGlobals::MakeClass(const String& Name, const Ref<IRTTIClass>& Ancestor,
-                                        const String& HostClassName, TRTTIClassKind Kind) {
-  return MakeCollection(Name, Ancestor, HostClassName, Kind, nullptr);
+                                        const String& HostClassName) {
+  return MakeCollection(Name, Ancestor, HostClassName, nullptr);
 }
 
 Ref<IRTTIClass> TRTTIGlobals::MakeCollection(const String& Name, const Ref<IRTTIClass>& Ancestor,
-                                             const String& HostClassName, TRTTIClassKind Kind,
+                                             const String& HostClassName,
                                              const Ref<IRTTIClass>& ElementType) {
   auto Class = MakeRef<TRTTIClass>(Name, Ancestor, ElementType);
   Class->SetHostClassName(HostClassName);
-  Class->SetClassKind(Kind);
   FSystem->AddMember(Class);
   return Class;
 }

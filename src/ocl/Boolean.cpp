@@ -15,10 +15,11 @@ struct TSharedBooleans {
 
 // Made once, on first use, and released at process end.
 const TSharedBooleans& Shared() noexcept {
+  using S = TOCLBooleanValue::TShared;
   static const TSharedBooleans Booleans{
-      {MakeRef<TOCLBooleanValue>(rtti_false), MakeRef<TOCLBooleanValue>(rtti_true),
-       MakeRef<TOCLBooleanValue>(rtti_unknown)},
-      MakeRef<TOCLBooleanValue>(TUndefined{String()})};
+      {MakeRef<TOCLBooleanValue>(S{}, rtti_false), MakeRef<TOCLBooleanValue>(S{}, rtti_true),
+       MakeRef<TOCLBooleanValue>(S{}, rtti_unknown)},
+      MakeRef<TOCLBooleanValue>(S{}, TUndefined{String()})};
   return Booleans;
 }
 
@@ -139,6 +140,13 @@ Ref<IOCLBoolean> TOCLBoolean::_EQ_(IOCLBoolean* rhs) const {
 Ref<IOCLBoolean> TOCLBoolean::_NE_(IOCLBoolean* rhs) const {
   if (!rhs) return UndefinedBoolean();
   return BooleanValue(GetasExtendedBoolean() != rhs->GetasExtendedBoolean());
+}
+
+void TOCLBooleanValue::SetasExtendedBoolean(TRTTIExtendedBoolean Value) {
+  if (FReadOnly)
+    throw EOCLException(u"unable to change shared boolean \"" +
+                        ExtendedBooleanToString(FasExtendedBoolean) + u"\" value");
+  FasExtendedBoolean = Value;
 }
 
 }  // namespace gello

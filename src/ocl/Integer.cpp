@@ -59,10 +59,6 @@ Ref<IOCLReal> TOCLInteger::MakeSameKind(Extended Value) const {
   return MakeRef<TOCLInteger>(TFromFloat{}, Value);
 }
 
-String TOCLInteger::NumberText() const {
-  return IntToStr(GetasInt64());
-}
-
 TJSON TOCLInteger::GetasCompactJSON() const {
   // A whole value is a JSON integer, exact over the whole 64-bit range.
   Extended Value = GetasExtended();

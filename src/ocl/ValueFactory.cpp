@@ -1,4 +1,5 @@
 #include "gello/foundation/Exceptions.h"
+#include "gello/model/HostClass.h"
 #include "gello/ocl/Any.h"
 #include "gello/ocl/Bag.h"
 #include "gello/ocl/Boolean.h"
@@ -23,12 +24,24 @@ Ref<IOCLAny> MakeStringOfClass(const Ref<IRTTIClass>& AClass) {
   return MakeRef<TOCLString>(AClass);
 }
 
+// A class the registry binds to an implementing class of its own (the built-in Any and
+// Collection, or a plug-in's class) is made as that class. Model classes inherit the binding of
+// their registered ancestor, so only a class registered itself is asked.
+Ref<IOCLAny> MakeRegistered(const Ref<IRTTIClass>& AClass) {
+  if (!AClass->GetHostType()) return nullptr;
+  const THostClass Impl = AClass->GetInstanceImpl();
+  return Impl && Impl->MakeValue ? Impl->MakeValue(AClass) : nullptr;
+}
+
 }  // namespace
 
 Ref<IOCLAny> TOCLAny::CreateFromClass(const Ref<IRTTIClass>& AClass) {
   if (!AClass)
     throw EOCLException(u"Internal Error: Gello Class is nil - has OCL Registry been initialized?");
-  switch (AClass->GetClassKind()) {
+  const TRTTIClassKind Kind = AClass->GetClassKind();
+  if (Kind == rtti_class || Kind == rtti_bag || Kind == rtti_sequence || Kind == rtti_set)
+    if (Ref<IOCLAny> Value = MakeRegistered(AClass)) return Value;
+  switch (Kind) {
     case rtti_undefined:
       throw EOCLException(u"Internal error: undefined class kind (" + AClass->GetName() + u")");
     case rtti_class:

@@ -2,8 +2,13 @@
 #include <utility>
 
 #include "gello/foundation/Exceptions.h"
+#include "gello/ocl/Bag.h"
 #include "gello/ocl/Boolean.h"
+#include "gello/ocl/Sequence.h"
+#include "gello/ocl/Set.h"
 #include "gello/ocl/SystemClasses.h"
+#include "gello/ocl/Tuple.h"
+#include "gello/ocl/Type.h"
 #include "gello/registry/IntfQueries.h"
 #include "gello/registry/OCLIntfTables.h"
 #include "gello/registry/Registry.h"
@@ -40,24 +45,46 @@ const TIntfInfo& Intf() {
   return TDescribed<I>::Info;
 }
 
+template <class V>
+Ref<IOCLAny> Make(const Ref<IRTTIClass>& Class) {
+  return MakeRef<V>(Class);
+}
+
+// The implementing class behind a system class that the value factory asks the registry for;
+// values of the simple kinds are made by kind, and an iterator only ever over a collection.
+template <class V>
+constexpr THostClassInfo Impl(const char* Name) {
+  return {Name, hc_class, &Make<V>};
+}
+
 using S = TOCLSystemClasses;
 const TSystemInterface SystemInterfaces[] = {
-    {u"System::Any", Intf<IOCLAny>(), nullptr, {"TOCLAny"}, &S::Any},
-    {u"System::T", Intf<IOCLT>(), nullptr, {"TOCLT"}, &S::T},
-    {u"System::Boolean", Intf<IOCLBoolean>(), nullptr, {"TOCLBooleanValue"}, &S::Boolean},
-    {u"System::Real", Intf<IOCLReal>(), nullptr, {"TOCLReal"}, &S::Real},
-    {u"System::Integer", Intf<IOCLInteger>(), nullptr, {"TOCLInteger"}, &S::Integer},
-    {u"System::String", Intf<IOCLString>(), nullptr, {"TOCLString"}, &S::String},
-    {u"System::Collection(T)",
-     Intf<IOCLCollection>(),
-     &Intf<IOCLAny>(),
-     {"TOCLCollection"},
-     &S::Collection},
-    {u"System::Bag(T)", Intf<IOCLBag>(), nullptr, {"TOCLBag"}, &S::Bag},
-    {u"System::Sequence(T)", Intf<IOCLSequence>(), nullptr, {"TOCLSequence"}, &S::Sequence},
-    {u"System::Set(T)", Intf<IOCLSet>(), nullptr, {"TOCLSet"}, &S::Set},
-    {u"System::Tuple", Intf<IOCLTuple>(), nullptr, {"TOCLTuple"}, &S::Tuple},
-    {u"System::Iterator", Intf<IOCLIterator>(), nullptr, {"TOCLIterator"}, &S::Iterator}};
+    {u"System::Any", Intf<IOCLAny>(), nullptr, Impl<TOCLAny>("TOCLAny"), &S::Any},
+    {u"System::T", Intf<IOCLT>(), nullptr, Impl<TOCLT>("TOCLT"), &S::T},
+    {u"System::Boolean",
+     Intf<IOCLBoolean>(),
+     nullptr,
+     {"TOCLBooleanValue", hc_class, nullptr},
+     &S::Boolean},
+    {u"System::Real", Intf<IOCLReal>(), nullptr, {"TOCLReal", hc_class, nullptr}, &S::Real},
+    {u"System::Integer",
+     Intf<IOCLInteger>(),
+     nullptr,
+     {"TOCLInteger", hc_class, nullptr},
+     &S::Integer},
+    {u"System::String", Intf<IOCLString>(), nullptr, {"TOCLString", hc_class, nullptr}, &S::String},
+    {u"System::Collection(T)", Intf<IOCLCollection>(), &Intf<IOCLAny>(),
+     Impl<TOCLCollection>("TOCLCollection"), &S::Collection},
+    {u"System::Bag(T)", Intf<IOCLBag>(), nullptr, Impl<TOCLBag>("TOCLBag"), &S::Bag},
+    {u"System::Sequence(T)", Intf<IOCLSequence>(), nullptr, Impl<TOCLSequence>("TOCLSequence"),
+     &S::Sequence},
+    {u"System::Set(T)", Intf<IOCLSet>(), nullptr, Impl<TOCLSet>("TOCLSet"), &S::Set},
+    {u"System::Tuple", Intf<IOCLTuple>(), nullptr, Impl<TOCLTuple>("TOCLTuple"), &S::Tuple},
+    {u"System::Iterator",
+     Intf<IOCLIterator>(),
+     nullptr,
+     {"TOCLIterator", hc_class, nullptr},
+     &S::Iterator}};
 
 // Bound first, so that operations naming one another's interfaces find their classes: the
 // seven basic interfaces, then the collections and Tuple (Any answers a Set, Collection a

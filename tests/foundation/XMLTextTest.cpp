@@ -245,3 +245,33 @@ TEST(XMLTextReaderWriter, RoundTripsNonAsciiTextThatCameFromTheReader) {
   ExpectRaises([] { Walk(*TXMLTextReader::CreateForString(u"<p>\u00E9</p>")); },
                u"parse error on Read", true);
 }
+
+// The streaming reader and writer carry a document's bytes, one character each; the model's names
+// are decoded UTF-16. The seam converts, so a non-ASCII name matches on both sides.
+TEST(XMLTextReaderWriter, NonAsciiNamesCrossTheStreamingSeamBothWays) {
+  const String ModelName = u"Gr\u00F6\u00DFe";
+  TMemoryStream Document(
+      "<Patient Gr\xC3\xB6\xC3\x9F"
+      "e='1.8'/>");
+  auto R = TXMLTextReader::Create(Document);
+  ASSERT_TRUE(R->Read() && R->MoveToNextAttribute());
+  EXPECT_NE(R->GetName(), ModelName);
+  EXPECT_EQ(FromXMLStreamText(R->GetName()), ModelName);
+
+  TMemoryStream Written;
+  {
+    auto W = TXMLTextWriter::Create(Written, false);
+    W->StartElement(u"Patient");
+    W->WriteAttribute(ToXMLStreamText(ModelName), ToXMLStreamText(u"\u20AC 5"));
+    W->EndElement();
+  }
+  EXPECT_NE(Written.Bytes().find("<Patient Gr\xC3\xB6\xC3\x9F"
+                                 "e="),
+            std::string::npos);
+  TMemoryStream Again(Written.Bytes());
+  auto Back = TXMLTextReader::Create(Again);
+  ASSERT_TRUE(Back->Read() && Back->MoveToNextAttribute());
+  EXPECT_EQ(FromXMLStreamText(Back->GetName()), ModelName);
+  EXPECT_EQ(FromXMLStreamText(Back->GetValue()), u"\u20AC 5");
+  EXPECT_EQ(ToXMLStreamText(u"plain"), u"plain");
+}

@@ -53,6 +53,11 @@ TEST_F(GlobalsTest, SystemHoldsTheBuiltInsInOrderWithTheirAncestors) {
   EXPECT_EQ(Globals->Get_Set()->GetAncestor(), Globals->Get_Collection());
   EXPECT_EQ(Globals->Get_Set()->GetElementType(), Globals->Get_T());
   EXPECT_FALSE(Globals->Get_Undefined()->GetAncestor());
+  // A class made later takes its kind from its ancestor.
+  EXPECT_EQ(Globals->MakeClass(u"Codes", Globals->Get_Set(), u"OCLSet")->GetClassKind(), rtti_set);
+  EXPECT_EQ(Globals->MakeCollection(u"Notes", Globals->Get_Collection(), u"", Globals->Get_String())
+                ->GetClassKind(),
+            rtti_class);
 }
 
 TEST_F(GlobalsTest, LookupSearchesOneLevelSystemFirst) {

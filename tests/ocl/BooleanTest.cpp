@@ -25,6 +25,23 @@ TRTTIExtendedBoolean V(const Ref<IOCLBoolean>& Value) {
 
 }  // namespace
 
+TEST_F(BooleanTest, SharedValuesAreReadOnly) {
+  Ref<IOCLBoolean> Result = B(T)->_AND_(B(T).get());
+  ExpectMessage<EOCLException>([&] { Result->SetasBoolean(false); },
+                               u"unable to change shared boolean \"true\" value");
+  ExpectMessage<EOCLException>([&] { B(F)->SetasString(u"true"); },
+                               u"unable to change shared boolean \"false\" value");
+  ExpectMessage<EOCLException>([&] { B(U)->SetasCompactJSON(true); },
+                               u"unable to change shared boolean \"unknown\" value");
+  EXPECT_THROW(TOCLBoolean::UndefinedBoolean()->SetasBoolean(true), EOCLException);
+  EXPECT_EQ(V(B(T)), T);
+  EXPECT_EQ(V(MakeRef<TOCLInteger>(2)->_EQ_(MakeRef<TOCLInteger>(2).get())), T);
+  // A Boolean of its own still changes.
+  Ref<IOCLBoolean> Own = MakeRef<TOCLBooleanValue>(true);
+  Own->SetasBoolean(false);
+  EXPECT_EQ(V(Own), F);
+}
+
 TEST_F(BooleanTest, OperatorsFollowTheThreeValuedTables) {
   EXPECT_EQ(V(B(U)->_AND_(B(F).get())), F);
   EXPECT_EQ(V(B(U)->_AND_(B(T).get())), U);

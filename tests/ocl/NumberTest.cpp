@@ -118,6 +118,11 @@ TEST_F(NumberTest, TextAndJSONForms) {
   EXPECT_EQ(R(0.1L)->GetasString(), u"0.1");
   EXPECT_EQ(R(1e20L)->GetasString(), u"1E20");
   EXPECT_EQ(R(INFINITY)->GetasString(), u"INF");
+  // An Integer's text is the Real's: the general format, whole or not.
+  EXPECT_EQ(I(1234567890123456)->GetasString(), u"1.23456789012346E15");
+  EXPECT_EQ(I(1234567890123456)->toChar()->GetasString(), u"1.23456789012346E15");
+  EXPECT_EQ(MakeRef<TOCLInteger>(TFromFloat{}, 2.5L)->GetasString(), u"2.5");
+  EXPECT_EQ(I(-42)->toChar()->GetasString(), u"-42");
   auto Value = R(5);
   Value->SetasString(u"");
   EXPECT_EQ(Value->GetasExtended(), 0.0L);

@@ -28,6 +28,13 @@ GELLO_API String FromLatin1(std::string_view Bytes);
 /// Back to the single-byte code page; characters above U+00FF become '?'.
 GELLO_API std::string ToLatin1(StringView Text);
 
+/// Text the streaming XML reader handed over (the document's UTF-8 bytes, one character each)
+/// as the text of the model and the values: UTF-16, decoded.
+GELLO_API String FromXMLStreamText(StringView Streamed);
+/// Text of the model and the values as the streaming XML writer takes it: its UTF-8 bytes, one
+/// character each.
+GELLO_API String ToXMLStreamText(StringView Text);
+
 /// Decimal text of an integer.
 GELLO_API String IntToStr(std::int64_t Value);
 

@@ -38,13 +38,12 @@ class GELLO_API TRTTIGlobals : public TRTTIPackage, public virtual IRTTIGlobals 
   using IRTTIScope::Lookup;
   void Clear() override;
 
-  /// A System class with that ancestor and host class name.
+  /// A System class with that ancestor, whose class kind it takes, and host class name.
   Ref<IRTTIClass> MakeClass(const String& Name, const Ref<IRTTIClass>& Ancestor,
-                            const String& HostClassName, TRTTIClassKind Kind);
+                            const String& HostClassName);
   /// A System collection class: MakeClass with an element type.
   Ref<IRTTIClass> MakeCollection(const String& Name, const Ref<IRTTIClass>& Ancestor,
-                                 const String& HostClassName, TRTTIClassKind Kind,
-                                 const Ref<IRTTIClass>& ElementType);
+                                 const String& HostClassName, const Ref<IRTTIClass>& ElementType);
 
  private:
   Ref<IRTTIPackage> FSystem;

@@ -45,9 +45,12 @@ class GELLO_API TOCLBoolean : public TOCLAny, public virtual IOCLBoolean {
   Ref<IOCLBoolean> LookUp(const TRTTIExtendedBoolean (&Table)[9], IOCLBoolean* rhs) const;
 };
 
-/// A Boolean that holds its value.
+/// A Boolean that holds its value. The shared ones cannot change: every result of the Boolean
+/// operations is one of them.
 class GELLO_API TOCLBooleanValue : public TOCLBoolean {
  public:
+  /// Selects the constructor of the shared, read-only values.
+  struct TShared {};
   explicit TOCLBooleanValue(TRTTIExtendedBoolean Value) : FasExtendedBoolean(Value) {}
   explicit TOCLBooleanValue(bool Value) : FasExtendedBoolean(Value ? rtti_true : rtti_false) {}
   /// A Boolean of a model class; it starts false.
@@ -55,12 +58,18 @@ class GELLO_API TOCLBooleanValue : public TOCLBoolean {
   /// An undefined Boolean; its value reads as unknown.
   explicit TOCLBooleanValue(const TUndefined& Reason)
       : TOCLBoolean(Reason), FasExtendedBoolean(rtti_unknown) {}
+  TOCLBooleanValue(TShared, TRTTIExtendedBoolean Value)
+      : FasExtendedBoolean(Value), FReadOnly(true) {}
+  TOCLBooleanValue(TShared, const TUndefined& Reason)
+      : TOCLBoolean(Reason), FasExtendedBoolean(rtti_unknown), FReadOnly(true) {}
 
   TRTTIExtendedBoolean GetasExtendedBoolean() const override { return FasExtendedBoolean; }
-  void SetasExtendedBoolean(TRTTIExtendedBoolean Value) override { FasExtendedBoolean = Value; }
+  /// Raises on a shared value.
+  void SetasExtendedBoolean(TRTTIExtendedBoolean Value) override;
 
  private:
   TRTTIExtendedBoolean FasExtendedBoolean = rtti_false;
+  bool FReadOnly = false;
 };
 
 }  // namespace gello

@@ -41,7 +41,6 @@ class GELLO_API TOCLInteger : public TOCLReal, public virtual IOCLInteger {
 
  protected:
   Ref<IOCLReal> MakeSameKind(Extended Value) const override;
-  String NumberText() const override;
 
  private:
   template <class Op>

@@ -53,8 +53,8 @@ class GELLO_API TOCLReal : public TOCLAny, public virtual IOCLReal {
   /// A new value of the receiver's own class holding Value exactly (max, min and abs keep the
   /// receiver's kind).
   virtual Ref<IOCLReal> MakeSameKind(Extended Value) const;
-  /// The text of the number alone.
-  virtual String NumberText() const;
+  /// The text of the number alone, an Integer's too: the general float format.
+  String NumberText() const;
 
  private:
   template <class Op>

@@ -9,6 +9,7 @@
 #include "gello/foundation/GUID.h"
 #include "gello/foundation/RefCounted.h"
 #include "gello/foundation/String.h"
+#include "gello/model/HostClass.h"
 
 namespace gello {
 
@@ -38,15 +39,6 @@ enum THostKind : std::uint8_t {
   hk_float,
   hk_string,
   hk_interface
-};
-
-/// What a host type handle (THostClass) stands for.
-enum THostClassKind : std::uint8_t { hc_interface, hc_class };
-
-/// A host type: an implementing class, or (as TIntfInfo) an interface.
-struct GELLO_API THostClassInfo {
-  const char* Name;
-  THostClassKind HostKind = hc_class;
 };
 
 /// A parameter: flags, name, type name and, for a described interface, its description.
