@@ -2,46 +2,19 @@
 // allocations each operation costs counted (operator new is replaced in this program).
 #include <benchmark/benchmark.h>
 
-#include <atomic>
-#include <cstdlib>
-#include <new>
 #include "gello/ocl/Boolean.h"
 #include "gello/ocl/Integer.h"
-
-namespace {
-std::atomic<long> Allocations{0};
-}  // namespace
-
-// The replaced operators pair malloc with free themselves; GCC cannot see that through inlining.
-#if defined(__GNUC__) && !defined(__clang__)
-#pragma GCC diagnostic ignored "-Wmismatched-new-delete"
-#endif
-
-void* operator new(std::size_t Size) {
-  Allocations.fetch_add(1, std::memory_order_relaxed);
-  if (void* P = std::malloc(Size ? Size : 1)) return P;
-  throw std::bad_alloc();
-}
-void operator delete(void* P) noexcept {
-  std::free(P);
-}
-void operator delete(void* P, std::size_t) noexcept {
-  std::free(P);
-}
+#include "support/AllocationCount.h"
 
 namespace {
 
 using namespace gello;
-
-// Reports the allocations made since Before, per iteration.
-void CountAllocations(benchmark::State& State, long Before) {
-  State.counters["allocs/op"] = benchmark::Counter(static_cast<double>(Allocations.load() - Before),
-                                                   benchmark::Counter::kAvgIterations);
-}
+using bench::AllocationsSoFar;
+using bench::CountAllocations;
 
 void BM_IntegerAdd_Floor(benchmark::State& State) {
   long double Sum = 0, One = 1;
-  long Before = Allocations.load();
+  long Before = AllocationsSoFar();
   for (auto _ : State) {
     benchmark::DoNotOptimize(One);
     Sum = Sum + One;
@@ -54,7 +27,7 @@ BENCHMARK(BM_IntegerAdd_Floor);
 void BM_IntegerAdd_Values(benchmark::State& State) {
   Ref<IOCLInteger> Sum = MakeRef<TOCLInteger>(0);
   Ref<IOCLInteger> One = MakeRef<TOCLInteger>(1);
-  long Before = Allocations.load();
+  long Before = AllocationsSoFar();
   for (auto _ : State) {
     Sum = Sum->_ADD_(One.get());
     benchmark::DoNotOptimize(Sum.get());
@@ -65,7 +38,7 @@ BENCHMARK(BM_IntegerAdd_Values);
 
 void BM_RealMultiply_Floor(benchmark::State& State) {
   long double Product = 1, Factor = 1.0000001L;
-  long Before = Allocations.load();
+  long Before = AllocationsSoFar();
   for (auto _ : State) {
     benchmark::DoNotOptimize(Factor);
     Product = Product * Factor;
@@ -78,7 +51,7 @@ BENCHMARK(BM_RealMultiply_Floor);
 void BM_RealMultiply_Values(benchmark::State& State) {
   Ref<IOCLReal> Product = MakeRef<TOCLReal>(1);
   Ref<IOCLReal> Factor = MakeRef<TOCLReal>(1.0000001L);
-  long Before = Allocations.load();
+  long Before = AllocationsSoFar();
   for (auto _ : State) {
     Product = Product->_MULTIPLY_(Factor.get());
     benchmark::DoNotOptimize(Product.get());
@@ -91,7 +64,7 @@ void BM_BooleanAndChain(benchmark::State& State) {
   Ref<IOCLBoolean> Result = TOCLBoolean::BooleanValue(true);
   Ref<IOCLBoolean> Unknown = TOCLBoolean::BooleanValue(rtti_unknown);
   Ref<IOCLBoolean> True = TOCLBoolean::BooleanValue(true);
-  long Before = Allocations.load();
+  long Before = AllocationsSoFar();
   for (auto _ : State) {
     Result = Result->_AND_(True.get())->_AND_(Unknown.get())->_OR_(True.get());
     benchmark::DoNotOptimize(Result.get());

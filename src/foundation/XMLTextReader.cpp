@@ -57,7 +57,8 @@ Ref<TXMLTextReader> TXMLTextReader::Wrap(xmlTextReaderPtr Reader, const String& 
 Ref<TXMLTextReader> TXMLTextReader::Create(const String& FileName) {
   const String Failure = u"unable to open " + FileName;
   xmltext::TQuietErrors Quiet;
-  auto Reader = Wrap(xmlNewTextReaderFilename(ToLatin1(FileName).c_str()), Failure, nullptr);
+  // The way libxml2 reads a file fastest (no separate input buffer of its own).
+  auto Reader = Wrap(xmlReaderForFile(ToLatin1(FileName).c_str(), nullptr, 0), Failure, nullptr);
   Reader->FFault.File = FileName;
   return Reader;
 }

@@ -1,5 +1,6 @@
 #pragma once
 // Guards for walks up an ancestor chain: a loop of any length ends the chain with one log line.
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -27,20 +28,42 @@ class TWalkGuard {
   bool FLooped;
 };
 
+/// The classes a walk has passed; chains are short, so they are kept in place up to a depth.
+class TSeenClasses {
+ public:
+  void Add(IRTTIClass* Class) {
+    if (FCount < Inline)
+      FInline[FCount] = Class;
+    else
+      FMore.push_back(Class);
+    ++FCount;
+  }
+  bool Contains(IRTTIClass* Class) const {
+    for (std::size_t i = 0; i < FCount && i < Inline; ++i)
+      if (FInline[i] == Class) return true;
+    return std::find(FMore.begin(), FMore.end(), Class) != FMore.end();
+  }
+
+ private:
+  static constexpr std::size_t Inline = 16;
+  IRTTIClass* FInline[Inline];
+  std::size_t FCount = 0;
+  std::vector<IRTTIClass*> FMore;
+};
+
 /// Calls Visit(c) for Start and each ancestor until it returns true or the chain ends or loops.
 template <class F>
 void WalkAncestors(IRTTIClass* Start, StringView Operation, F Visit) {
-  std::vector<IRTTIClass*> Seen;
+  TSeenClasses Seen;
   Ref<IRTTIClass> C(Start);
   while (C) {
-    Seen.push_back(C.get());
+    Seen.Add(C.get());
     if (Visit(C.get())) return;
     Ref<IRTTIClass> Next = C->GetAncestor();
-    for (IRTTIClass* Earlier : Seen)
-      if (Earlier == Next.get()) {
-        LogAncestorLoop(Operation, C->GetName());
-        return;
-      }
+    if (Next && Seen.Contains(Next.get())) {
+      LogAncestorLoop(Operation, C->GetName());
+      return;
+    }
     C = Next;
   }
 }

@@ -28,7 +28,7 @@ TRTTIClass::~TRTTIClass() {
 bool TRTTIClass::AddMember(const Ref<IRTTIElement>& Element) {
   const bool Added = TRTTIScope::AddMember(Element);
   // Added or not, a new property means the numbering must be done again.
-  if (dynamic_cast<IRTTIProperty*>(Element.get())) FPropertyIndexesAllocated = false;
+  if (CachedCast<IRTTIProperty>(Element.get())) FPropertyIndexesAllocated = false;
   return Added;
 }
 

@@ -26,7 +26,7 @@ namespace {
 // Whether following Class through aliases comes back to an alias already passed.
 bool AliasesLoop(IRTTIClass* Class, const IRTTIClass* Self) {
   std::vector<const IRTTIClass*> Passed{Self};
-  while (auto* Alias = dynamic_cast<TRTTIClassAlias*>(Class)) {
+  while (auto* Alias = CachedCast<TRTTIClassAlias>(Class)) {
     if (std::find(Passed.begin(), Passed.end(), Class) != Passed.end()) return true;
     Passed.push_back(Class);
     Class = Alias->GetActualClass().get();

@@ -90,12 +90,17 @@ bool TRTTIClass::MembersDerive(IRTTIClass* Other, IRTTIElementList& Path) {
 
 Ref<IRTTIMethod> TRTTIClass::FindMethod(const String& Name, IRTTIElementList* Args) {
   // The first fit wins: this class's methods first, then each ancestor's, in the order added.
-  Ref<IRTTIElementList> Candidates = LookupAll(Name, IRTTIMethod::IID);
-  for (int i = 0; i < Candidates->GetCount(); ++i) {
-    Ref<IRTTIMethod> Method = DynCast<IRTTIMethod>(Candidates->GetItems(i));
-    if (ArgumentsFit(*Method, Args)) return Method;
-  }
-  return nullptr;
+  // Asked for every operator an expression applies, so it walks the name index in place.
+  IRTTIMethod* Found = nullptr;
+  WalkAncestors(this, u"Lookup", [&](IRTTIClass* C) {
+    const Ref<IRTTIElementList> Members = C->GetMembers();
+    return Members && Members->AnyNamed(Name, [&](IRTTIElement& Member) {
+      auto* Method = CachedCast<IRTTIMethod>(&Member);
+      if (Method && ArgumentsFit(*Method, Args)) Found = Method;
+      return Found != nullptr;
+    });
+  });
+  return Ref<IRTTIMethod>(Found);
 }
 
 }  // namespace gello

@@ -15,7 +15,7 @@ int TRTTIClass::OwnPropertyCount() const {
   int Count = 0;
   Ref<IRTTIElementList> Members = GetMembers();
   for (int i = 0; Members && i < Members->GetCount(); ++i)
-    if (dynamic_cast<IRTTIProperty*>(Members->GetItems(i).get())) ++Count;
+    if (CachedCast<IRTTIProperty>(Members->GetItems(i).get())) ++Count;
   return Count;
 }
 

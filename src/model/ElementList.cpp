@@ -142,13 +142,6 @@ bool TRTTIElementList::IsKeyed(const TItem& Item, const String& Key) {
   return Key.empty() ? Item.Unnamed : !Item.Unnamed && Item.Element->GetName() == Key;
 }
 
-std::vector<const TRTTIElementList::TItem*> TRTTIElementList::Named(const String& Key) const {
-  std::vector<const TItem*> Result;
-  for (std::size_t i : ByAge())
-    if (IsKeyed(FItems[i], Key)) Result.push_back(&FItems[i]);
-  return Result;
-}
-
 IRTTIElement* TRTTIElementList::Newest(const String& Key) const {
   if (FIndex) return FIndex->Newest(Key);
   const TItem* Found = nullptr;
@@ -251,18 +244,37 @@ Ref<IRTTIElement> TRTTIElementList::GetItemByUMLID(const String& Id) const {
 
 Ref<IRTTIElementList> TRTTIElementList::ItemsByName(const String& Name) const {
   auto Result = MakeRef<TRTTIElementList>();
-  if (!FIndex) {
-    for (const TItem* Item : Named(Name))
-      Result->Add(Item->Element);
-    return Result;
-  }
+  AnyNamed(Name, [&](IRTTIElement& Element) {
+    Result->Add(Ref<IRTTIElement>(&Element));
+    return false;
+  });
+  return Result;
+}
+
+bool TRTTIElementList::AnyNamed(const String& Name, TFunctionRef<bool(IRTTIElement&)> Visit) const {
+  if (!FIndex) return AnyNamedByAge(Name, Visit);
   IRTTIElement* Last = FIndex->Newest(Name);
-  if (!Last) return Result;
+  if (!Last) return false;
   if (auto Older = FIndex->Older.find(Name); Older != FIndex->Older.end())
     for (IRTTIElement* Element : Older->second)
-      Result->Add(Ref<IRTTIElement>(Element));
-  Result->Add(Ref<IRTTIElement>(Last));
-  return Result;
+      if (Visit(*Element)) return true;
+  return Visit(*Last);
+}
+
+// A list short enough to go without an index: the next older match is found by a scan each time.
+bool TRTTIElementList::AnyNamedByAge(const String& Name,
+                                     TFunctionRef<bool(IRTTIElement&)> Visit) const {
+  const TItem* Previous = nullptr;
+  for (;;) {
+    const TItem* Next = nullptr;
+    for (const TItem& Item : FItems)
+      if (IsKeyed(Item, Name) && (!Previous || Item.Added > Previous->Added) &&
+          (!Next || Item.Added < Next->Added))
+        Next = &Item;
+    if (!Next) return false;
+    if (Visit(*Next->Element)) return true;
+    Previous = Next;
+  }
 }
 
 Ref<IRTTIElementList> TRTTIElementList::GetSortedItems() const {

@@ -5,7 +5,7 @@ namespace {
 
 template <class I>
 bool Is(IRTTIElement* Element) {
-  return dynamic_cast<I*>(Element) != nullptr;
+  return CachedCast<I>(Element) != nullptr;
 }
 
 struct TInterfaceTest {

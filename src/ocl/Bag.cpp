@@ -80,14 +80,14 @@ Ref<IOCLBag> TOCLBag::flatten() const {
 }
 
 Ref<IOCLBag> TOCLBag::union_(IOCLCollection* c) const {
-  if (!dynamic_cast<IOCLBag*>(c) && !dynamic_cast<IOCLSet*>(c))
+  if (!CachedCast<IOCLBag>(c) && !CachedCast<IOCLSet>(c))
     throw EOCLException(u"union of a Bag needs a Set or a Bag");
   return Joined(c);
 }
 
 Ref<IOCLBag> TOCLBag::intersection(IOCLCollection* c) const {
-  if (auto* b = dynamic_cast<IOCLBag*>(c)) return intersection(b);
-  if (auto* s = dynamic_cast<IOCLSet*>(c)) return intersection(s);
+  if (auto* b = CachedCast<IOCLBag>(c)) return intersection(b);
+  if (auto* s = CachedCast<IOCLSet>(c)) return intersection(s);
   throw EOCLException(u"intersection of a Bag needs a Set or a Bag");
 }
 

@@ -88,7 +88,7 @@ Ref<IRTTIClass> TOCLBoolean::GetInstanceType() const {
 }
 
 bool TOCLBoolean::isEqual(IOCLAny* Other) const {
-  auto* Rhs = dynamic_cast<IOCLBoolean*>(Other);
+  auto* Rhs = CachedCast<IOCLBoolean>(Other);
   return Rhs && Rhs->GetasExtendedBoolean() == GetasExtendedBoolean();
 }
 

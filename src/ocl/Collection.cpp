@@ -14,11 +14,11 @@ namespace {
 
 // Adds two elements by their own _ADD_: Integers stay Integers, other numbers become Reals.
 Ref<IOCLAny> AddElements(IOCLAny* Left, IOCLAny* Right) {
-  auto* LeftInt = dynamic_cast<IOCLInteger*>(Left);
-  auto* RightInt = dynamic_cast<IOCLInteger*>(Right);
+  auto* LeftInt = CachedCast<IOCLInteger>(Left);
+  auto* RightInt = CachedCast<IOCLInteger>(Right);
   if (LeftInt && RightInt) return LeftInt->_ADD_(RightInt);
-  auto* LeftReal = dynamic_cast<IOCLReal*>(Left);
-  auto* RightReal = dynamic_cast<IOCLReal*>(Right);
+  auto* LeftReal = CachedCast<IOCLReal>(Left);
+  auto* RightReal = CachedCast<IOCLReal>(Right);
   if (LeftReal && RightReal) return LeftReal->_ADD_(RightReal);
   throw EOCLException(u"Data type can't be summed.");
 }
@@ -27,7 +27,7 @@ Ref<IOCLAny> AddElements(IOCLAny* Left, IOCLAny* Right) {
 
 bool AnyElementOf(IOCLCollection* c, const std::function<bool(const Ref<IOCLAny>&)>& Visit) {
   if (!c) return false;
-  if (auto* Own = dynamic_cast<TOCLCollection*>(c)) return Own->AnyElement(Visit);
+  if (auto* Own = CachedCast<TOCLCollection>(c)) return Own->AnyElement(Visit);
   for (Ref<IFastIterator> It = c->FastIterator(); !It->Advance();)
     if (Visit(It->CurrentElement())) return true;
   return false;

@@ -57,14 +57,14 @@ std::size_t TypeKey(IOCLT* Value) {
 bool ElementKey(IOCLAny* Element, std::size_t& Key) {
   const std::type_info& Class = typeid(*Element);
   if (Class == typeid(TOCLInteger) || Class == typeid(TOCLReal))
-    Key = NumberKey(dynamic_cast<IOCLReal*>(Element));
+    Key = NumberKey(CachedCast<IOCLReal>(Element));
   else if (Class == typeid(TOCLString) || Class == typeid(TOCLNullString) ||
            Class == typeid(TOCLStringDescendant))
-    Key = TextKey(dynamic_cast<IOCLString*>(Element));
+    Key = TextKey(CachedCast<IOCLString>(Element));
   else if (Class == typeid(TOCLBooleanValue))
-    Key = BooleanKey(dynamic_cast<IOCLBoolean*>(Element));
+    Key = BooleanKey(CachedCast<IOCLBoolean>(Element));
   else if (Class == typeid(TOCLT))
-    Key = TypeKey(dynamic_cast<IOCLT*>(Element));
+    Key = TypeKey(CachedCast<IOCLT>(Element));
   else
     return false;
   return true;
@@ -83,10 +83,10 @@ struct TQueryKeys {
 
 TQueryKeys QueryKeys(IOCLAny* Value) {
   TQueryKeys Result;
-  if (auto* Number = dynamic_cast<IOCLReal*>(Value)) Result.Add(NumberKey(Number));
-  if (auto* Text = dynamic_cast<IOCLString*>(Value)) Result.Add(TextKey(Text));
-  if (auto* Truth = dynamic_cast<IOCLBoolean*>(Value)) Result.Add(BooleanKey(Truth));
-  if (auto* Type = dynamic_cast<IOCLT*>(Value)) Result.Add(TypeKey(Type));
+  if (auto* Number = CachedCast<IOCLReal>(Value)) Result.Add(NumberKey(Number));
+  if (auto* Text = CachedCast<IOCLString>(Value)) Result.Add(TextKey(Text));
+  if (auto* Truth = CachedCast<IOCLBoolean>(Value)) Result.Add(BooleanKey(Truth));
+  if (auto* Type = CachedCast<IOCLT>(Value)) Result.Add(TypeKey(Type));
   return Result;
 }
 

@@ -3,7 +3,7 @@
 namespace gello {
 
 TMembership::TMembership(IOCLCollection* c) {
-  auto* Own = dynamic_cast<TOCLCollection*>(c);
+  auto* Own = CachedCast<TOCLCollection>(c);
   if (Own && Own->Held()) {
     FElements = *Own->Held();
     return;

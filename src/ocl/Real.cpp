@@ -86,13 +86,13 @@ Ref<IRTTIClass> TOCLReal::GetInstanceType() const {
 }
 
 bool TOCLReal::isEqual(IOCLAny* Other) const {
-  auto* Rhs = dynamic_cast<IOCLReal*>(Other);
+  auto* Rhs = CachedCast<IOCLReal>(Other);
   return Rhs && Rhs->GetasExtended() == FasExtended;
 }
 
 bool TOCLReal::_LessThan(IOCLAny* Other) const {
   if (!Other) return false;
-  auto* Rhs = dynamic_cast<IOCLReal*>(Other);
+  auto* Rhs = CachedCast<IOCLReal>(Other);
   if (!Rhs) throw EOCLException(u"Data types are incompatible for sorting.");
   return FasExtended < Rhs->GetasExtended();
 }

@@ -17,7 +17,7 @@ std::int64_t Low32(IOCLInteger* Value) {
 
 void AddFlattened(TOCLCollection& Into, IOCLCollection* c, bool Distinct) {
   AnyElementOf(c, [&](const Ref<IOCLAny>& Element) {
-    if (auto* Nested = dynamic_cast<IOCLCollection*>(Element.get()))
+    if (auto* Nested = CachedCast<IOCLCollection>(Element.get()))
       AddFlattened(Into, Nested, Distinct);
     else if (!Distinct || !Into.Exists(Element.get()))
       Into.Add(Element);
@@ -37,7 +37,7 @@ Ref<IOCLSequence> TOCLSequence::Empty() const {
 }
 
 bool TOCLSequence::isEqual(IOCLAny* Other) const {
-  auto* Rhs = dynamic_cast<IOCLSequence*>(Other);
+  auto* Rhs = CachedCast<IOCLSequence>(Other);
   if (!Rhs) return false;
   Ref<IFastIterator> Right = Rhs->FastIterator();
   bool Differs = AnyElement([&](const Ref<IOCLAny>& Element) {

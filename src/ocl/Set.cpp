@@ -23,7 +23,7 @@ Ref<TOCLCollection> TOCLSet::NewBag() const {
 }
 
 bool TOCLSet::isEqual(IOCLAny* Other) const {
-  auto* Rhs = dynamic_cast<IOCLSet*>(Other);
+  auto* Rhs = CachedCast<IOCLSet>(Other);
   if (!Rhs) return false;
   TMembership InOther(Rhs);
   return !AnyElement([&](const Ref<IOCLAny>& Element) { return !InOther.Contains(Element.get()); });
@@ -92,14 +92,14 @@ Ref<IOCLSet> TOCLSet::flatten() const {
 }
 
 Ref<IOCLCollection> TOCLSet::union_(IOCLCollection* c) const {
-  if (auto* b = dynamic_cast<IOCLBag*>(c)) return union_(b);
-  if (auto* s = dynamic_cast<IOCLSet*>(c)) return union_(s);
+  if (auto* b = CachedCast<IOCLBag>(c)) return union_(b);
+  if (auto* s = CachedCast<IOCLSet>(c)) return union_(s);
   throw EOCLException(u"union of a Set needs a Set or a Bag");
 }
 
 Ref<IOCLCollection> TOCLSet::intersection(IOCLCollection* c) const {
-  if (auto* b = dynamic_cast<IOCLBag*>(c)) return intersection(b);
-  if (auto* s = dynamic_cast<IOCLSet*>(c)) return intersection(s);
+  if (auto* b = CachedCast<IOCLBag>(c)) return intersection(b);
+  if (auto* s = CachedCast<IOCLSet>(c)) return intersection(s);
   throw EOCLException(u"intersection of a Set needs a Set or a Bag");
 }
 

@@ -61,13 +61,13 @@ Ref<IRTTIClass> TOCLString::GetInstanceType() const {
 }
 
 bool TOCLString::isEqual(IOCLAny* Other) const {
-  auto* Rhs = dynamic_cast<IOCLString*>(Other);
+  auto* Rhs = CachedCast<IOCLString>(Other);
   return Rhs && Rhs->GetasString() == FasString;
 }
 
 bool TOCLString::_LessThan(IOCLAny* Other) const {
   if (!Other) return false;
-  auto* Rhs = dynamic_cast<IOCLString*>(Other);
+  auto* Rhs = CachedCast<IOCLString>(Other);
   if (!Rhs) throw EOCLException(u"Data types are incompatible for sorting.");
   return FasString < Rhs->GetasString();
 }

@@ -15,7 +15,7 @@ String TOCLT::GetasString() const {
 }
 
 bool TOCLT::isEqual(IOCLAny* Other) const {
-  auto* Rhs = dynamic_cast<IOCLT*>(Other);
+  auto* Rhs = CachedCast<IOCLT>(Other);
   return Rhs && Rhs->GetOCLClassType() == FOCLClassType;
 }
 

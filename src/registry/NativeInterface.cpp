@@ -35,13 +35,13 @@ bool Supports(const TIntfInfo* Intf, const RefCounted* Object) {
 
 template <class I>
 I* ValueAs(IOCLAny* Value) {
-  return dynamic_cast<I*>(Value);
+  return CachedCast<I>(Value);
 }
 
 }  // namespace
 
 RefCounted* NativeTarget(IOCLAny* Value) noexcept {
-  if (auto* Native = dynamic_cast<TOCLNativeInterface*>(Value)) return Native->GetIntf();
+  if (auto* Native = CachedCast<TOCLNativeInterface>(Value)) return Native->GetIntf();
   return Value;
 }
 
@@ -50,7 +50,7 @@ TOCLNativeInterface::TOCLNativeInterface(const Ref<IRTTIClass>& Class, const Ref
 
 String TOCLNativeInterface::GetasString() const {
   if (!FClass) return u"[UnknownInterface]";
-  auto* Instance = dynamic_cast<IRTTIClassInstance*>(FIntf.get());
+  auto* Instance = CachedCast<IRTTIClassInstance>(FIntf.get());
   return FClass->GetName() + u"(" + (Instance ? Instance->GetasString() : String()) + u")";
 }
 

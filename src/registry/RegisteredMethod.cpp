@@ -9,7 +9,7 @@ TOCLRegisteredMethod::TOCLRegisteredMethod(const String& Name, const Ref<IRTTICl
 }
 
 const TMethodInfo* GetMethodInfo(const IRTTIMethod* Method) noexcept {
-  auto* Registered = dynamic_cast<const TOCLRegisteredMethod*>(Method);
+  auto* Registered = CachedCast<TOCLRegisteredMethod>(Method);
   return Registered ? &Registered->GetMethodInfo() : nullptr;
 }
 

@@ -30,31 +30,31 @@ void CountList(IRTTIElementList* List, TCounts& Counts) {
 
 // Every node of an expression tree, by kind; a variable counts by its initial value.
 void CountNodes(IRTTIElement* Node, TCounts& Counts) {
-  if (auto* Variable = dynamic_cast<IRTTIProperty*>(Node))
+  if (auto* Variable = CachedCast<IRTTIProperty>(Node))
     return CountNodes(Variable->GetPropertyValue().get(), Counts);
   if (!Node) return;
   ++Counts.Nodes[ToUTF8(Node->GetKind())];
-  if (auto* Call = dynamic_cast<TRTTIMethodCall*>(Node)) {
+  if (auto* Call = CachedCast<TRTTIMethodCall>(Node)) {
     CountNodes(Call->Getclassref().get(), Counts);
     CountList(Call->Getparams().get(), Counts);
-  } else if (auto* Ref = dynamic_cast<TRTTIPropertyRef*>(Node)) {
+  } else if (auto* Ref = CachedCast<TRTTIPropertyRef>(Node)) {
     CountNodes(Ref->Getclassref().get(), Counts);
-  } else if (auto* Iteration = dynamic_cast<TRTTICollectionMethod*>(Node)) {
+  } else if (auto* Iteration = CachedCast<TRTTICollectionMethod>(Node)) {
     CountNodes(Iteration->Getclassref().get(), Counts);
     CountNodes(Iteration->Getaccum().get(), Counts);
     CountList(Iteration->Getparams().get(), Counts);
-  } else if (auto* Conditional = dynamic_cast<TRTTIConditional*>(Node)) {
+  } else if (auto* Conditional = CachedCast<TRTTIConditional>(Node)) {
     CountNodes(Conditional->GetCondition().get(), Counts);
     CountNodes(Conditional->GetThenPart().get(), Counts);
     CountNodes(Conditional->GetElsePart().get(), Counts);
-  } else if (auto* Block = dynamic_cast<TRTTIStatements*>(Node)) {
+  } else if (auto* Block = CachedCast<TRTTIStatements>(Node)) {
     CountList(Block->GetDeclaratives().get(), Counts);
     CountNodes(Block->GetReturnValue().get(), Counts);
-  } else if (auto* Tuple = dynamic_cast<TRTTITupleValue*>(Node)) {
+  } else if (auto* Tuple = CachedCast<TRTTITupleValue>(Node)) {
     CountList(Tuple->GetValues().get(), Counts);
-  } else if (auto* Collection = dynamic_cast<TRTTICollectionValue*>(Node)) {
+  } else if (auto* Collection = CachedCast<TRTTICollectionValue>(Node)) {
     CountList(Collection->GetElements().get(), Counts);
-  } else if (auto* Pragma = dynamic_cast<TRTTIPragma*>(Node)) {
+  } else if (auto* Pragma = CachedCast<TRTTIPragma>(Node)) {
     CountList(Pragma->Getpragmas().get(), Counts);
   }
 }
@@ -67,7 +67,7 @@ void ForEachMember(IRTTIScope& Scope, F Visit) {
 }
 
 std::string Describe(IRTTIClass& Class, TCounts& Counts) {
-  if (auto* Alias = dynamic_cast<TRTTIClassAlias*>(&Class)) {
+  if (auto* Alias = CachedCast<TRTTIClassAlias>(&Class)) {
     ++Counts.Aliases;
     return "alias of " + Name(Alias->GetActualClass().get());
   }

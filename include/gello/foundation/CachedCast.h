@@ -44,4 +44,10 @@ To* CachedCast(From* Object) noexcept {
   }
 }
 
+/// The same through a pointer to const.
+template <class To, class From>
+const To* CachedCast(const From* Object) noexcept {
+  return CachedCast<To>(const_cast<From*>(Object));
+}
+
 }  // namespace gello

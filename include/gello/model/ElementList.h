@@ -33,6 +33,7 @@ class GELLO_API TRTTIElementList : public virtual IRTTIElementList {
   void SetItemByName(const String& Name, const Ref<IRTTIElement>& Element) override;
   Ref<IRTTIElement> GetItemByUMLID(const String& Id) const override;
   Ref<IRTTIElementList> ItemsByName(const String& Name) const override;
+  bool AnyNamed(const String& Name, TFunctionRef<bool(IRTTIElement&)> Visit) const override;
   Ref<IRTTIElementList> GetSortedItems() const override;
   void Sort() override;
   void Swap(int I, int J) override;
@@ -62,7 +63,7 @@ class GELLO_API TRTTIElementList : public virtual IRTTIElementList {
   void Renumber();
   std::vector<std::size_t> ByAge() const;
   IRTTIElement* Newest(const String& Key) const;
-  std::vector<const TItem*> Named(const String& Key) const;
+  bool AnyNamedByAge(const String& Name, TFunctionRef<bool(IRTTIElement&)> Visit) const;
   void ForgetUMLIds();
   void QuickSort(int L, int R);
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include "gello/foundation/Export.h"
 
+#include "gello/foundation/FunctionRef.h"
 #include "gello/foundation/GUID.h"
 #include "gello/foundation/Logic.h"
 #include "gello/foundation/RefCounted.h"
@@ -87,6 +88,9 @@ struct GELLO_API IRTTIElementList : virtual RefCounted {
   virtual void SetItemByName(const String& Name, const Ref<IRTTIElement>& Element) = 0;
   virtual Ref<IRTTIElement> GetItemByUMLID(const String& Id) const = 0;
   virtual Ref<IRTTIElementList> ItemsByName(const String& Name) const = 0;
+  /// Visits the items named Name, oldest first, until Visit answers true; answers whether it
+  /// did. Unlike ItemsByName it makes no list.
+  virtual bool AnyNamed(const String& Name, TFunctionRef<bool(IRTTIElement&)> Visit) const = 0;
   virtual Ref<IRTTIElementList> GetSortedItems() const = 0;
   virtual void Sort() = 0;
   virtual void Swap(int I, int J) = 0;

@@ -170,14 +170,14 @@ T ArgAs(IOCLAny* Arg) {
   else if constexpr (std::is_base_of_v<IOCLAny, P>)
     return CachedCast<P>(Arg);
   else
-    return dynamic_cast<T>(NativeTarget(Arg));
+    return CachedCast<P>(NativeTarget(Arg));
 }
 
 // Self, or the host object of a native-interface value.
 template <class I>
 I* SelfAs(RefCounted* Self) {
   I* Target = CachedCast<I>(Self);
-  if (!Target) Target = dynamic_cast<I*>(NativeTarget(dynamic_cast<IOCLAny*>(Self)));
+  if (!Target) Target = CachedCast<I>(NativeTarget(CachedCast<IOCLAny>(Self)));
   if (!Target) RaiseUnsupportedSelf(TIntfName<I>::Text);
   return Target;
 }
@@ -230,7 +230,7 @@ struct TThunks<I, Fn, TTypes<A...>> {
     if constexpr (std::is_void_v<IntfOf<A0>>)
       (SelfAs<I>(Self)->*Fn)(Value);
     else
-      (SelfAs<I>(Self)->*Fn)(dynamic_cast<IntfOf<A0>*>(Value));
+      (SelfAs<I>(Self)->*Fn)(CachedCast<IntfOf<A0>>(Value));
   }
   // A getter (no argument, a host-kind result) or a setter (one host-kind argument, no result).
   static consteval TAccessor AccessorOrNone() {
@@ -291,7 +291,7 @@ consteval TIntfEntry MakeEntry(const char* Name) {
 
 template <class I>
 bool Supports(const RefCounted* Object) {
-  return dynamic_cast<const I*>(Object) != nullptr;
+  return CachedCast<I>(Object) != nullptr;
 }
 
 }  // namespace detail
