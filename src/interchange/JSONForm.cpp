@@ -28,12 +28,12 @@ Ref<IRTTIClass> JSONClass(const TJSON& Value, const char* Key) {
 
 TJSON GetasJSON(IRTTIElement& Element) {
   TJSON Value = TJSON::object();
-  forms::FormOf(Element.GetKind()).GetJSON(Element, Value);
+  forms::FormOf(Element).GetJSON(Element, Value);
   return Value;
 }
 
 void SetasJSON(IRTTIElement& Element, const TJSON& Value) {
-  forms::FormOf(Element.GetKind()).SetJSON(Element, Value);
+  forms::FormOf(Element).SetJSON(Element, Value);
 }
 
 Ref<IRTTIElement> LoadFromJSONValue(const TJSON& Value) {

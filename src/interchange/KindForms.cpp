@@ -1,10 +1,7 @@
-// The table of forms by kind word.
+// The table of forms by kind tag.
 #include "KindForms.h"
 
-#include <algorithm>
 #include <array>
-#include <cstdint>
-#include <unordered_map>
 
 namespace gello::forms {
 namespace {
@@ -35,64 +32,34 @@ constexpr TKindForm CollectionValueForm{WriteCollectionValueXML, ReadCollectionV
                                         GetValueJSON, SetValueJSON};
 constexpr TKindForm PragmaForm{WritePragmaXML, ReadPragmaXML, GetValueJSON, SetValueJSON};
 
-const std::unordered_map<StringView, TKindForm>& Forms() {
-  static const std::unordered_map<StringView, TKindForm> Table{
-      {u"Element", ElementForm},
-      {u"Scope", ScopeForm},
-      {u"Package", PackageForm},
-      {u"Globals", PackageForm},
-      {u"Class", ClassForm},
-      {u"Generic", ClassForm},
-      {u"ClassAlias", AliasForm},
-      {u"Method", MethodForm},
-      {u"Property", PropertyForm},
-      {u"Value", ValueForm},
-      {u"Factory", ValueForm},
-      {u"Literal", LiteralForm},
-      {u"StringLiteral", LiteralForm},
-      {u"IntegerLiteral", LiteralForm},
-      {u"RealLiteral", LiteralForm},
-      {u"BooleanLiteral", LiteralForm},
-      {u"NullLiteral", LiteralForm},
-      {u"EnumLiteral", LiteralForm},
-      {u"ClassLiteral", LiteralForm},
-      {u"MethodCall", MethodCallForm},
-      {u"PropertyRef", PropertyRefForm},
-      {u"CollectionMethod", CollectionMethodForm},
-      {u"Conditional", ConditionalForm},
-      {u"Statements", StatementsForm},
-      {u"TupleValue", TupleValueForm},
-      {u"CollectionValue", CollectionValueForm},
-      {u"Pragma", PragmaForm},
-  };
-  return Table;
+// In the order of the kind tags. A package list has no form of its own.
+constexpr std::array<const TKindForm*, NodeKindCount> FormsByKind{
+    &ElementForm,         &ScopeForm,   &PackageForm,     &PackageForm,     &ElementForm,
+    &ClassForm,           &ClassForm,   &AliasForm,       &MethodForm,      &PropertyForm,
+    &ValueForm,           &ValueForm,   &ConditionalForm, &StatementsForm,  &TupleValueForm,
+    &CollectionValueForm, &PragmaForm,  &MethodCallForm,  &PropertyRefForm, &CollectionMethodForm,
+    &LiteralForm,         &LiteralForm, &LiteralForm,     &LiteralForm,     &LiteralForm,
+    &LiteralForm,         &LiteralForm, &LiteralForm};
+
+const TKindForm& FormOfKind(TRTTINodeKind Kind) {
+  return *FormsByKind[static_cast<std::size_t>(Kind)];
 }
 
-const TKindForm& Lookup(StringView Kind) {
-  auto Found = Forms().find(Kind);
-  return Found == Forms().end() ? ElementForm : Found->second;
+// A word no kind has gets the plain element's form.
+const TKindForm& FormOfWord(StringView Word) {
+  for (std::size_t i = 0; i < NodeKindCount; ++i)
+    if (KindWord(static_cast<TRTTINodeKind>(i)) == Word)
+      return FormOfKind(static_cast<TRTTINodeKind>(i));
+  return ElementForm;
 }
 
 }  // namespace
 
-const TKindForm& FormOf(StringView Kind) {
-  // Kind words are the classes' own constants, so their address picks a cache entry, and a
-  // word compared there spares hashing it for every element of a large model. The entry keeps
-  // its own copy of the word, so a word that is not a constant is still compared safely.
-  struct TCached {
-    char16_t Word[24];
-    std::size_t Size = SIZE_MAX;
-    const TKindForm* Form = nullptr;
-  };
-  thread_local std::array<TCached, 64> Cache;
-  if (Kind.size() > std::size(TCached{}.Word)) return Lookup(Kind);
-  TCached& Entry = Cache[(reinterpret_cast<std::uintptr_t>(Kind.data()) >> 3) % Cache.size()];
-  if (Entry.Size != Kind.size() || !std::equal(Kind.begin(), Kind.end(), Entry.Word)) {
-    std::copy(Kind.begin(), Kind.end(), Entry.Word);
-    Entry.Size = Kind.size();
-    Entry.Form = &Lookup(Kind);
-  }
-  return *Entry.Form;
+const TKindForm& FormOf(const IRTTIElement& Element) {
+  const TRTTINodeKind Kind = Element.GetNodeKind();
+  const StringView Word = Element.GetKind();
+  // The library's classes answer their tag's word; a foreign class may claim another.
+  return Word == KindWord(Kind) ? FormOfKind(Kind) : FormOfWord(Word);
 }
 
 }  // namespace gello::forms

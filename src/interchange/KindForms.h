@@ -1,5 +1,5 @@
 #pragma once
-// The native XML and JSON forms of each element kind, found by kind word. Each kind's parts
+// The native XML and JSON forms of each element kind, found by kind tag. Each kind's parts
 // call its base kind's parts first, so a kind adds only its own attributes, nodes and keys.
 #include <pugixml.hpp>
 
@@ -51,8 +51,9 @@ struct TKindForm {
   void (*SetJSON)(IRTTIElement&, const TJSON&);
 };
 
-/// The form of a kind word; a kind without one of its own has the plain element's form.
-const TKindForm& FormOf(StringView Kind);
+/// The form of the element's kind: by its kind tag, or for a foreign class that claims another
+/// kind word, by that word; a word without a form of its own has the plain element's form.
+const TKindForm& FormOf(const IRTTIElement& Element);
 
 /// The element as the interface its kind implies; raises when a foreign class claims the kind.
 template <class I>

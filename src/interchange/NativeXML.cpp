@@ -90,7 +90,7 @@ auto AtNode(pugi::xml_node Node, Read&& ReadNode) {
 }  // namespace
 
 static void ReadElement(IRTTIElement& Element, const TElementNode& Node, TReading& Reading) {
-  FormOf(Element.GetKind()).ReadXML(Element, Node, Reading);
+  FormOf(Element).ReadXML(Element, Node, Reading);
 }
 
 void ReadElement(IRTTIElement& Element, pugi::xml_node Node, TReading& Reading) {
@@ -154,7 +154,7 @@ void WriteList(IRTTIElementList* List, pugi::xml_node Parent, const char* Role, 
 }  // namespace forms
 
 void WriteXML(IRTTIElement& Element, pugi::xml_node Node) {
-  forms::FormOf(Element.GetKind()).WriteXML(Element, Node);
+  forms::FormOf(Element).WriteXML(Element, Node);
 }
 
 void ReadXML(IRTTIElement& Element, pugi::xml_node Node, IRTTIGlobals* Globals) {

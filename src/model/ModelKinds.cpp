@@ -21,7 +21,7 @@ namespace {
                 RTTIClassOf<TRTTIPackage>(),
                 RTTIClassOf<TRTTIGeneric>(),
                 // The global scope is always named "Globals".
-                {String(TRTTIGlobals::KindName),
+                {String(KindWord(TRTTIGlobals::Kind)),
                  [](String) -> Ref<IRTTIElement> { return MakeRef<TRTTIGlobals>(); }}});
   return true;
 }();

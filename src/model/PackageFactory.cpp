@@ -14,7 +14,7 @@ const String FactoryName = u"Factory";
 // collections or primitives.
 bool IsConcrete(IRTTIClass& Class) {
   const TRTTIClassKind Kind = Class.GetClassKind();
-  return Class.GetKind() == TRTTIClass::KindName && Class.GetName() != FactoryName &&
+  return Class.GetNodeKind() == TRTTIClass::Kind && Class.GetName() != FactoryName &&
          Class.GetName().find(u'(') == String::npos && !Class.IsGeneric() && !Class.GetEnums() &&
          !Class.GetIsTuple() && !Class.IsCollection() &&
          (Kind == rtti_undefined || Kind == rtti_class);

@@ -8,6 +8,7 @@
 #include "gello/expr/Navigation.h"
 #include "gello/model/ClassAlias.h"
 #include "gello/model/ElementList.h"
+#include "gello/model/Property.h"
 
 namespace gello::tool {
 namespace {
@@ -30,32 +31,43 @@ void CountList(IRTTIElementList* List, TCounts& Counts) {
 
 // Every node of an expression tree, by kind; a variable counts by its initial value.
 void CountNodes(IRTTIElement* Node, TCounts& Counts) {
-  if (auto* Variable = CachedCast<IRTTIProperty>(Node))
+  if (auto* Variable = NodeDynCast<TRTTIProperty>(Node))
     return CountNodes(Variable->GetPropertyValue().get(), Counts);
   if (!Node) return;
   ++Counts.Nodes[ToUTF8(Node->GetKind())];
-  if (auto* Call = CachedCast<TRTTIMethodCall>(Node)) {
-    CountNodes(Call->Getclassref().get(), Counts);
-    CountList(Call->Getparams().get(), Counts);
-  } else if (auto* Ref = CachedCast<TRTTIPropertyRef>(Node)) {
-    CountNodes(Ref->Getclassref().get(), Counts);
-  } else if (auto* Iteration = CachedCast<TRTTICollectionMethod>(Node)) {
-    CountNodes(Iteration->Getclassref().get(), Counts);
-    CountNodes(Iteration->Getaccum().get(), Counts);
-    CountList(Iteration->Getparams().get(), Counts);
-  } else if (auto* Conditional = CachedCast<TRTTIConditional>(Node)) {
-    CountNodes(Conditional->GetCondition().get(), Counts);
-    CountNodes(Conditional->GetThenPart().get(), Counts);
-    CountNodes(Conditional->GetElsePart().get(), Counts);
-  } else if (auto* Block = CachedCast<TRTTIStatements>(Node)) {
-    CountList(Block->GetDeclaratives().get(), Counts);
-    CountNodes(Block->GetReturnValue().get(), Counts);
-  } else if (auto* Tuple = CachedCast<TRTTITupleValue>(Node)) {
-    CountList(Tuple->GetValues().get(), Counts);
-  } else if (auto* Collection = CachedCast<TRTTICollectionValue>(Node)) {
-    CountList(Collection->GetElements().get(), Counts);
-  } else if (auto* Pragma = CachedCast<TRTTIPragma>(Node)) {
-    CountList(Pragma->Getpragmas().get(), Counts);
+  switch (Node->GetNodeKind()) {
+    case TRTTINodeKind::MethodCall: {
+      auto& Call = *CachedCast<TRTTIMethodCall>(Node);
+      CountNodes(Call.Getclassref().get(), Counts);
+      return CountList(Call.Getparams().get(), Counts);
+    }
+    case TRTTINodeKind::PropertyRef:
+      return CountNodes(CachedCast<TRTTIPropertyRef>(Node)->Getclassref().get(), Counts);
+    case TRTTINodeKind::CollectionMethod: {
+      auto& Iteration = *CachedCast<TRTTICollectionMethod>(Node);
+      CountNodes(Iteration.Getclassref().get(), Counts);
+      CountNodes(Iteration.Getaccum().get(), Counts);
+      return CountList(Iteration.Getparams().get(), Counts);
+    }
+    case TRTTINodeKind::Conditional: {
+      auto& Conditional = *CachedCast<TRTTIConditional>(Node);
+      CountNodes(Conditional.GetCondition().get(), Counts);
+      CountNodes(Conditional.GetThenPart().get(), Counts);
+      return CountNodes(Conditional.GetElsePart().get(), Counts);
+    }
+    case TRTTINodeKind::Statements: {
+      auto& Block = *CachedCast<TRTTIStatements>(Node);
+      CountList(Block.GetDeclaratives().get(), Counts);
+      return CountNodes(Block.GetReturnValue().get(), Counts);
+    }
+    case TRTTINodeKind::TupleValue:
+      return CountList(CachedCast<TRTTITupleValue>(Node)->GetValues().get(), Counts);
+    case TRTTINodeKind::CollectionValue:
+      return CountList(CachedCast<TRTTICollectionValue>(Node)->GetElements().get(), Counts);
+    case TRTTINodeKind::Pragma:
+      return CountList(CachedCast<TRTTIPragma>(Node)->Getpragmas().get(), Counts);
+    default:
+      return;
   }
 }
 

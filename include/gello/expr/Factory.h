@@ -8,9 +8,9 @@ namespace gello {
 /// A value typed by the class it makes instances of.
 class GELLO_API TRTTIFactory : public TRTTIValue {
  public:
-  static constexpr StringView KindName = u"Factory";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::Factory;
   using TRTTIValue::TRTTIValue;
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
 };
 
 }  // namespace gello

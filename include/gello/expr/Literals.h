@@ -10,9 +10,10 @@ namespace gello {
 /// A constant value node; its text form is GetasString / SetasString.
 class GELLO_API TRTTILiteral : public TRTTIValue, public virtual IRTTILiteral {
  public:
-  static constexpr StringView KindName = u"Literal";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::Literal;
+  static constexpr TNodeKindRange Kinds{Kind, TRTTINodeKind::ClassLiteral};
   using TRTTIValue::TRTTIValue;
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
 };
 
 /// A constant kept as its text, unchanged; read for the plain kind "Literal".
@@ -30,18 +31,18 @@ class GELLO_API TRTTITextLiteral : public TRTTILiteral {
 /// A string constant.
 class GELLO_API TRTTIStringLiteral : public TRTTITextLiteral {
  public:
-  static constexpr StringView KindName = u"StringLiteral";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::StringLiteral;
   using TRTTITextLiteral::TRTTITextLiteral;
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
 };
 
 /// A 64-bit integer constant whose text is read back as a 32-bit integer.
 class GELLO_API TRTTIIntegerLiteral : public TRTTILiteral {
  public:
-  static constexpr StringView KindName = u"IntegerLiteral";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::IntegerLiteral;
   explicit TRTTIIntegerLiteral(String Name) : TRTTILiteral(std::move(Name)) {}
   TRTTIIntegerLiteral(const Ref<IRTTIClass>& Class, std::int64_t Value);
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
   std::int64_t GetValue() const { return FValue; }
   String GetasString() const override { return IntToStr(FValue); }
   /// Raises EConvertError for text that is not a 32-bit decimal integer; the value is kept.
@@ -54,10 +55,10 @@ class GELLO_API TRTTIIntegerLiteral : public TRTTILiteral {
 /// A real constant held as a 64-bit float; its text goes through the engine's real form.
 class GELLO_API TRTTIRealLiteral : public TRTTILiteral {
  public:
-  static constexpr StringView KindName = u"RealLiteral";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::RealLiteral;
   explicit TRTTIRealLiteral(String Name) : TRTTILiteral(std::move(Name)) {}
   TRTTIRealLiteral(const Ref<IRTTIClass>& Class, double Value);
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
   double GetValue() const { return FValue; }
   String GetasString() const override;
   void SetasString(const String& Value) override;
@@ -69,12 +70,12 @@ class GELLO_API TRTTIRealLiteral : public TRTTILiteral {
 /// A three-valued boolean constant.
 class GELLO_API TRTTIBooleanLiteral : public TRTTILiteral {
  public:
-  static constexpr StringView KindName = u"BooleanLiteral";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::BooleanLiteral;
   explicit TRTTIBooleanLiteral(String Name) : TRTTILiteral(std::move(Name)) {}
   TRTTIBooleanLiteral(const Ref<IRTTIClass>& Class, TRTTIExtendedBoolean Value);
   /// A plain boolean keeps its ordinal: false is rtti_false, true is rtti_true.
   TRTTIBooleanLiteral(const Ref<IRTTIClass>& Class, bool Value);
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
   TRTTIExtendedBoolean GetValue() const { return FValue; }
   String GetasString() const override { return ExtendedBooleanToString(FValue); }
   void SetasString(const String& Value) override { FValue = StringToExtendedBoolean(Value); }
@@ -86,10 +87,10 @@ class GELLO_API TRTTIBooleanLiteral : public TRTTILiteral {
 /// The null constant: always "null", whatever text it is given.
 class GELLO_API TRTTINullLiteral : public TRTTILiteral {
  public:
-  static constexpr StringView KindName = u"NullLiteral";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::NullLiteral;
   explicit TRTTINullLiteral(String Name) : TRTTILiteral(std::move(Name)) {}
   explicit TRTTINullLiteral(const Ref<IRTTIClass>& Class) : TRTTILiteral(Class) {}
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
   String GetasString() const override { return u"null"; }
   void SetasString(const String&) override {}
 };
@@ -97,18 +98,18 @@ class GELLO_API TRTTINullLiteral : public TRTTILiteral {
 /// A constant that denotes a class by its name.
 class GELLO_API TRTTIClassLiteral : public TRTTITextLiteral {
  public:
-  static constexpr StringView KindName = u"ClassLiteral";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::ClassLiteral;
   using TRTTITextLiteral::TRTTITextLiteral;
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
 };
 
 /// A literal of an enumeration: its text is its name, its ordinal its position.
 class GELLO_API TRTTIEnumLiteral : public TRTTILiteral {
  public:
-  static constexpr StringView KindName = u"EnumLiteral";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::EnumLiteral;
   explicit TRTTIEnumLiteral(String Name) : TRTTILiteral(std::move(Name)) {}
   TRTTIEnumLiteral(const String& Name, const Ref<IRTTIClass>& Class, std::int32_t Ordinal);
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
   std::int32_t GetOrdinal() const { return FOrdinal; }
   String GetasString() const override { return GetName(); }
   /// Names the literal; names are write-once.

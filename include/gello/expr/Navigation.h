@@ -8,20 +8,20 @@ namespace gello {
 /// A call of a method on the value of classref (nil: a call without explicit receiver).
 class GELLO_API TRTTIMethodCall : public TRTTIValue {
  public:
-  static constexpr StringView KindName = u"MethodCall";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::MethodCall;
   explicit TRTTIMethodCall(String Name) : TRTTIValue(std::move(Name)) {}
   TRTTIMethodCall(const String& Name, const Ref<IRTTIClass>& ResultType,
                   const Ref<IRTTIValue>& ClassRef, const Ref<IRTTIElementList>& Params,
                   const Ref<IRTTIMethod>& MethodRef);
   ~TRTTIMethodCall() override;
 
-  StringView GetKind() const override { return KindName; }
-  Ref<IRTTIValue> Getclassref() const { return Fclassref; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
+  const Ref<IRTTIValue>& Getclassref() const { return Fclassref; }
   void Setclassref(const Ref<IRTTIValue>& Value) { Fclassref = Value; }
-  Ref<IRTTIElementList> Getparams() const { return Fparams; }
+  const Ref<IRTTIElementList>& Getparams() const { return Fparams; }
   void Setparams(const Ref<IRTTIElementList>& Value) { Fparams = Value; }
   /// The bound method; files do not keep it, so a call read back is bound by its name.
-  Ref<IRTTIMethod> Getmethodref() const { return Fmethodref; }
+  const Ref<IRTTIMethod>& Getmethodref() const { return Fmethodref; }
   void Setmethodref(const Ref<IRTTIMethod>& Value) { Fmethodref = Value; }
 
   void Resolve(IRTTIScope* Scope) override;
@@ -36,14 +36,14 @@ class GELLO_API TRTTIMethodCall : public TRTTIValue {
 /// A reference to the property of that name on the value of classref.
 class GELLO_API TRTTIPropertyRef : public TRTTIValue {
  public:
-  static constexpr StringView KindName = u"PropertyRef";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::PropertyRef;
   explicit TRTTIPropertyRef(String Name) : TRTTIValue(std::move(Name)) {}
   TRTTIPropertyRef(const String& Name, const Ref<IRTTIClass>& ResultType,
                    const Ref<IRTTIValue>& ClassRef);
   ~TRTTIPropertyRef() override;
 
-  StringView GetKind() const override { return KindName; }
-  Ref<IRTTIValue> Getclassref() const { return Fclassref; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
+  const Ref<IRTTIValue>& Getclassref() const { return Fclassref; }
   void Setclassref(const Ref<IRTTIValue>& Value) { Fclassref = Value; }
 
   void Resolve(IRTTIScope* Scope) override;
@@ -56,23 +56,23 @@ class GELLO_API TRTTIPropertyRef : public TRTTIValue {
 /// A collection operation with an iterator variable and, for iterate, an accumulator.
 class GELLO_API TRTTICollectionMethod : public TRTTIValue {
  public:
-  static constexpr StringView KindName = u"CollectionMethod";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::CollectionMethod;
   explicit TRTTICollectionMethod(String Name) : TRTTIValue(std::move(Name)) {}
   TRTTICollectionMethod(const String& Name, const Ref<IRTTIClass>& ResultType,
                         const Ref<IRTTIValue>& ClassRef, const Ref<IRTTIProperty>& Iterator,
                         const Ref<IRTTIProperty>& Accum, const Ref<IRTTIElementList>& Params);
   ~TRTTICollectionMethod() override;
 
-  StringView GetKind() const override { return KindName; }
-  Ref<IRTTIValue> Getclassref() const { return Fclassref; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
+  const Ref<IRTTIValue>& Getclassref() const { return Fclassref; }
   void Setclassref(const Ref<IRTTIValue>& Value) { Fclassref = Value; }
-  Ref<IRTTIProperty> Getiterator() const { return Fiterator; }
+  const Ref<IRTTIProperty>& Getiterator() const { return Fiterator; }
   void Setiterator(const Ref<IRTTIProperty>& Value) { Fiterator = Value; }
   /// The accumulator of an iterate; its initial value is the property's value.
-  Ref<IRTTIProperty> Getaccum() const { return Faccum; }
+  const Ref<IRTTIProperty>& Getaccum() const { return Faccum; }
   void Setaccum(const Ref<IRTTIProperty>& Value) { Faccum = Value; }
   /// The body expression or expressions.
-  Ref<IRTTIElementList> Getparams() const { return Fparams; }
+  const Ref<IRTTIElementList>& Getparams() const { return Fparams; }
   void Setparams(const Ref<IRTTIElementList>& Value) { Fparams = Value; }
 
   void Resolve(IRTTIScope* Scope) override;

@@ -8,14 +8,15 @@ namespace gello {
 /// A node of a compiled expression; the value type is the type of its result.
 class GELLO_API TRTTIValue : public TRTTIElement, public virtual IRTTIValue {
  public:
-  static constexpr StringView KindName = u"Value";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::Value;
+  static constexpr TNodeKindRange Kinds{Kind, TRTTINodeKind::ClassLiteral};
   /// The reader's form: named, without a type yet.
   explicit TRTTIValue(String Name);
   /// An unnamed node of that type.
   explicit TRTTIValue(const Ref<IRTTIClass>& ValueType);
   ~TRTTIValue() override;
 
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
   Ref<IRTTIClass> GetValueType() const override { return FValueType; }
   void SetValueType(const Ref<IRTTIClass>& Value) override { FValueType = Value; }
   void Resolve(IRTTIScope* Scope) override;

@@ -10,12 +10,13 @@ namespace gello {
 /// A model class; it owns its members (properties, methods, nested elements).
 class GELLO_API TRTTIClass : public TRTTIScope, public virtual IRTTIClass {
  public:
-  static constexpr StringView KindName = u"Class";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::Class;
+  static constexpr TNodeKindRange Kinds{Kind, TRTTINodeKind::Generic};
   explicit TRTTIClass(String Name, const Ref<IRTTIClass>& Ancestor = nullptr,
                       const Ref<IRTTIClass>& ElementType = nullptr);
   ~TRTTIClass() override;
 
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
   bool AddMember(const Ref<IRTTIElement>& Element) override;
   Ref<IRTTIElement> Lookup(const String& Name, const GUID& InterfaceId) override;
   Ref<IRTTIElementList> LookupAll(const String& Name, const GUID& InterfaceId) override;

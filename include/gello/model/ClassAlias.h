@@ -8,12 +8,12 @@ namespace gello {
 /// Forwards the class queries to its actual class and ignores the class setters.
 class GELLO_API TRTTIClassAlias : public TRTTIScope, public virtual IRTTIClass {
  public:
-  static constexpr StringView KindName = u"ClassAlias";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::ClassAlias;
   explicit TRTTIClassAlias(String Name);
   TRTTIClassAlias(const String& Name, const Ref<IRTTIClass>& ActualClass);
   ~TRTTIClassAlias() override;
 
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
   Ref<IRTTIClass> GetActualClass() const { return FActualClass; }
   /// Fails an assertion for an empty class.
   void SetActualClass(const Ref<IRTTIClass>& Value);

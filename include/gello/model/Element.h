@@ -11,7 +11,8 @@ namespace gello {
 /// Base of every model element; subclasses refine the type questions and Resolve.
 class GELLO_API TRTTIElement : public virtual IRTTIElement {
  public:
-  static constexpr StringView KindName = u"Element";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::Element;
+  static constexpr TNodeKindRange Kinds{Kind, TRTTINodeKind::ClassLiteral};
   explicit TRTTIElement(String Name = {});
   ~TRTTIElement() override;
 
@@ -26,7 +27,9 @@ class GELLO_API TRTTIElement : public virtual IRTTIElement {
   void SetHidden(bool Value) override { FHidden = Value; }
   bool GetResolved() const override { return FResolved; }
   void SetResolved(bool Value) override { FResolved = Value; }
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
+  /// The kind word of the kind tag.
+  StringView GetKind() const override { return KindWord(GetNodeKind()); }
   String ExternalTypeName() const override { return String(GetKind()); }
   GUID GetGUID() override;
   String GetUML_ID() override;

@@ -17,10 +17,10 @@ struct GELLO_API TRTTIElementClass {
   TElementFactory Create;
 };
 
-/// The registry entry of element class T, which declares its KindName.
+/// The registry entry of element class T, under the kind word of its kind tag.
 template <class T>
 TRTTIElementClass RTTIClassOf() {
-  return {String(T::KindName),
+  return {String(KindWord(T::Kind)),
           [](String Name) -> Ref<IRTTIElement> { return MakeRef<T>(std::move(Name)); }};
 }
 

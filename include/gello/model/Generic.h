@@ -8,9 +8,9 @@ namespace gello {
 /// A class that stands for any type: every class test it makes succeeds.
 class GELLO_API TRTTIGeneric : public TRTTIClass {
  public:
-  static constexpr StringView KindName = u"Generic";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::Generic;
   using TRTTIClass::TRTTIClass;
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
   bool IsGeneric() const override { return true; }
 };
 

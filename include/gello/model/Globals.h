@@ -8,11 +8,11 @@ namespace gello {
 /// The root of every model; it builds the System package and makes classes on demand.
 class GELLO_API TRTTIGlobals : public TRTTIPackage, public virtual IRTTIGlobals {
  public:
-  static constexpr StringView KindName = u"Globals";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::Globals;
   TRTTIGlobals();
   ~TRTTIGlobals() override;
 
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
   Ref<IRTTIClass> Get_Any() const override { return FAny; }
   Ref<IRTTIClass> Get_Bag() const override { return FBag; }
   Ref<IRTTIClass> Get_Boolean() const override { return FBoolean; }

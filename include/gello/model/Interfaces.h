@@ -8,6 +8,7 @@
 #include "gello/foundation/Logic.h"
 #include "gello/foundation/RefCounted.h"
 #include "gello/foundation/String.h"
+#include "gello/model/NodeKind.h"
 
 namespace gello {
 
@@ -56,6 +57,8 @@ struct GELLO_API IRTTIElement : virtual RefCounted {
   virtual void SetResolved(bool Value) = 0;
   /// The class name without its "TRTTI" prefix; the text lives as long as the program.
   virtual StringView GetKind() const = 0;
+  /// The kind tag of the element's class (model/NodeKind.h).
+  virtual TRTTINodeKind GetNodeKind() const = 0;
   virtual String ExternalTypeName() const = 0;
   virtual GUID GetGUID() = 0;
   virtual String GetUML_ID() = 0;

@@ -8,7 +8,7 @@ namespace gello {
 /// A method whose parameters are properties; it conforms as its result type does.
 class GELLO_API TRTTIMethod : public TRTTIElement, public virtual IRTTIMethod {
  public:
-  static constexpr StringView KindName = u"Method";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::Method;
   /// The reader's form: result type and parameters come later.
   explicit TRTTIMethod(String Name);
   /// Fails an assertion when ResultType is empty; empty Params become a new empty list.
@@ -16,7 +16,7 @@ class GELLO_API TRTTIMethod : public TRTTIElement, public virtual IRTTIMethod {
               const Ref<IRTTIElementList>& Params = nullptr);
   ~TRTTIMethod() override;
 
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
   bool GetCollectionOp() const override { return FCollectionOp; }
   Ref<IRTTIElementList> GetParams() const override { return FParams; }
   Ref<IRTTIClass> GetResultType() const override { return FResultType; }

@@ -10,11 +10,12 @@ namespace gello {
 /// A scope of classes, aliases and nested packages, with imports, a main block and a use count.
 class GELLO_API TRTTIPackage : public TRTTIScope, public virtual IRTTIPackage {
  public:
-  static constexpr StringView KindName = u"Package";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::Package;
+  static constexpr TNodeKindRange Kinds{Kind, TRTTINodeKind::Globals};
   explicit TRTTIPackage(String Name);
   ~TRTTIPackage() override;
 
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
   Ref<IRTTIElementList> GetImports() const override { return FImports; }
   void SetImports(const Ref<IRTTIElementList>& Value) override { FImports = Value; }
   Ref<IRTTIValue> GetMainBlock() const override { return FMainBlock; }

@@ -8,9 +8,9 @@ namespace gello {
 /// An unnamed scope of packages; it does not own them.
 class GELLO_API TRTTIPackageList : public TRTTIScope, public virtual IRTTIPackageList {
  public:
-  static constexpr StringView KindName = u"PackageList";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::PackageList;
   explicit TRTTIPackageList(const String& Name = {}) : TRTTIScope(Name) {}
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
   Ref<IRTTIPackage> FindPackage(const String& Name) override { return Find<IRTTIPackage>(Name); }
 };
 

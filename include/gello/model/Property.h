@@ -8,7 +8,7 @@ namespace gello {
 /// A typed property with its slot index and the positions of its host getter and setter.
 class GELLO_API TRTTIProperty : public TRTTIElement, public virtual IRTTIProperty {
  public:
-  static constexpr StringView KindName = u"Property";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::Property;
   /// The reader's form: the type comes later.
   explicit TRTTIProperty(String Name);
   /// Fails an assertion when PropertyType is empty.
@@ -16,7 +16,7 @@ class GELLO_API TRTTIProperty : public TRTTIElement, public virtual IRTTIPropert
                 TPropInfo PropInfo = nullptr);
   ~TRTTIProperty() override;
 
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
   std::int32_t GetGetterVMTIndex() const override { return FGetterVMTIndex; }
   std::int32_t GetPropertyIndex() const override { return FPropertyIndex; }
   Ref<IRTTIClass> GetPropertyType() const override { return FPropertyType; }

@@ -9,11 +9,12 @@ namespace gello {
 /// support.
 class GELLO_API TRTTIScope : public TRTTIElement, public virtual IRTTIScope {
  public:
-  static constexpr StringView KindName = u"Scope";
+  static constexpr TRTTINodeKind Kind = TRTTINodeKind::Scope;
+  static constexpr TNodeKindRange Kinds{Kind, TRTTINodeKind::ClassAlias};
   explicit TRTTIScope(String Name = {}, bool OwnsMembers = false);
   ~TRTTIScope() override;
 
-  StringView GetKind() const override { return KindName; }
+  TRTTINodeKind GetNodeKind() const override { return Kind; }
   Ref<IRTTIElementList> GetMembers() const override { return FMembers; }
   void SetMembers(const Ref<IRTTIElementList>& Value) override { FMembers = Value; }
   /// Made on first request: most scopes (classes) never hold statements.
